@@ -1,0 +1,60 @@
+# The few shared build rules: compiler settings, one library a floor, programs beside each other, tests by folder.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+option(JORV_TESTS "Tests und Messprogramme mitbauen" ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+# Programs that call each other by name lie in one folder.
+set(JORV_PROGRAMME ${CMAKE_BINARY_DIR}/programme)
+
+add_library(jv_regeln INTERFACE)
+target_include_directories(jv_regeln INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(jv_regeln INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -finput-charset=UTF-8 -fexec-charset=UTF-8)
+target_compile_definitions(jv_regeln INTERFACE _GLIBCXX_ASSERTIONS)
+
+function(jv_ordner ordner)
+  if(EXISTS ${CMAKE_SOURCE_DIR}/${ordner}/CMakeLists.txt)
+    add_subdirectory(${CMAKE_SOURCE_DIR}/${ordner})
+  endif()
+endfunction()
+
+# jv_bibliothek(jv_daten QUELLEN a.cpp b.cpp ETAGEN jv_projekt jv_geo)
+function(jv_bibliothek name)
+  cmake_parse_arguments(A "" "" "QUELLEN;ETAGEN" ${ARGN})
+  add_library(${name} STATIC ${A_QUELLEN})
+  target_link_libraries(${name} PUBLIC jv_regeln ${A_ETAGEN})
+endfunction()
+
+# jv_programm(wa2 QUELLEN wa2_main.cpp ETAGEN jv_suite)
+function(jv_programm name)
+  cmake_parse_arguments(A "" "" "QUELLEN;ETAGEN" ${ARGN})
+  add_executable(${name} ${A_QUELLEN})
+  target_link_libraries(${name} PRIVATE jv_regeln ${A_ETAGEN})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${JORV_PROGRAMME})
+endfunction()
+
+# jv_test(test_daten QUELLEN test_a.cpp ETAGEN jv_daten): one test program a folder; every TEST is a ctest of its own.
+# Tests whose suite name begins with Lang_ run only in the long run (label lang).
+function(jv_test name)
+  cmake_parse_arguments(A "" "" "QUELLEN;ETAGEN" ${ARGN})
+  find_package(GTest REQUIRED)
+  include(GoogleTest)
+  add_executable(${name} ${A_QUELLEN})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE jv_regeln ${A_ETAGEN} GTest::gtest GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${name} PRIVATE
+    JORV_PROGRAMME="${JORV_PROGRAMME}" JORV_QUELLEN="${CMAKE_SOURCE_DIR}" JORV_DATEN="${CMAKE_SOURCE_DIR}/../shared/daten")
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_FILTER -Lang_* PROPERTIES TIMEOUT 120)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_FILTER Lang_* TEST_SUFFIX .lang PROPERTIES LABELS lang TIMEOUT 1800)
+endfunction()

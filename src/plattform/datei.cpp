@@ -1,0 +1,279 @@
+#include "plattform/datei.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+
+#include "plattform/text.h"
+#include "plattform/umgebung.h"
+
+namespace jorv {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view marke = ".jorv-";  // in the names of temporary files
+
+std::error_code grund()
+{
+    return {errno, std::generic_category()};
+}
+std::error_code kein_laufwerk()
+{
+    return std::make_error_code(std::errc::no_such_device);
+}
+
+std::string utf8(const fs::path& pfad)
+{
+    const auto text = pfad.u8string();
+    return {reinterpret_cast<const char*>(text.data()), text.size()};
+}
+
+fs::path aus_utf8(const std::string& text)
+{
+    return fs::path(reinterpret_cast<const char8_t*>(text.c_str()));
+}
+
+fs::path link_ziel(const fs::path& pfad)
+{
+    std::error_code fehler;
+    return fs::is_symlink(pfad, fehler) ? fs::weakly_canonical(pfad, fehler) : pfad;
+}
+
+std::string temporaerer_name(const fs::path& ziel, int versuch)
+{
+    const fs::path ordner = ziel.parent_path();
+    const std::string name = verkettet(".", utf8(ziel.filename()), marke, prozess_kennung(), "-", versuch);
+    return utf8(ordner / aus_utf8(name));
+}
+
+}  // namespace
+
+bool Dateisystem::ist_datei(std::string_view pfad) const
+{
+    std::error_code fehler;
+    const auto ort = m_laufwerke.host(pfad);
+    return ort && fs::is_regular_file(*ort, fehler);
+}
+
+bool Dateisystem::ist_ordner(std::string_view pfad) const
+{
+    std::error_code fehler;
+    const auto ort = m_laufwerke.host(pfad);
+    return ort && fs::is_directory(ort->empty() ? fs::path(".") : *ort, fehler);
+}
+
+bool Dateisystem::vorhanden(std::string_view pfad) const
+{
+    std::error_code fehler;
+    const auto ort = m_laufwerke.host(pfad);
+    return ort && fs::exists(*ort, fehler);
+}
+
+std::optional<std::uint64_t> Dateisystem::groesse(std::string_view pfad) const
+{
+    std::error_code fehler;
+    const auto ort = m_laufwerke.host(pfad);
+    if (!ort || !fs::is_regular_file(*ort, fehler)) return std::nullopt;
+    const auto bytes = fs::file_size(*ort, fehler);
+    return fehler ? std::nullopt : std::optional<std::uint64_t>(bytes);
+}
+
+std::optional<std::string> Dateisystem::lesen(std::string_view pfad) const
+{
+    std::error_code fehler;
+    return lesen(pfad, fehler);
+}
+
+std::optional<std::string> Dateisystem::lesen(std::string_view pfad, std::error_code& fehler) const
+{
+    auto text = anfang_lesen(pfad, std::string::npos);
+    fehler = text ? std::error_code{} : grund();
+    return text;
+}
+
+std::optional<std::string> Dateisystem::anfang_lesen(std::string_view pfad, std::size_t anzahl) const
+{
+    std::error_code fehler;
+    const auto ort = m_laufwerke.host(pfad);
+    if (!ort || !fs::is_regular_file(*ort, fehler)) {
+        errno = ort && fs::is_directory(*ort, fehler) ? EISDIR : ENOENT;
+        return std::nullopt;
+    }
+    const int nummer = m_aufrufe->oeffnen(utf8(*ort).c_str(), O_RDONLY, 0);
+    if (nummer < 0) return std::nullopt;
+    std::string text;
+    const auto laenge = fs::file_size(*ort, fehler);
+    std::size_t platz = std::min<std::size_t>(fehler ? 65536 : static_cast<std::size_t>(laenge) + 1, anzahl);
+    int fehlernummer = 0;
+    while (text.size() < anzahl) {
+        const std::size_t alt = text.size();
+        text.resize(alt + std::max<std::size_t>(platz, 1));
+        const long n = m_aufrufe->lesen(nummer, text.data() + alt, text.size() - alt);
+        if (n < 0 && errno == EINTR) {
+            text.resize(alt);
+            continue;
+        }
+        if (n < 0) fehlernummer = errno;
+        text.resize(alt + static_cast<std::size_t>(std::max(n, 0L)));
+        if (n <= 0) break;
+        platz = std::min<std::size_t>(65536, anzahl - text.size());
+    }
+    m_aufrufe->schliessen(nummer);
+    errno = fehlernummer;
+    if (fehlernummer != 0) return std::nullopt;
+    return text;
+}
+
+Abbild Dateisystem::abbilden(std::string_view pfad, std::error_code& fehler) const
+{
+    const auto ort = m_laufwerke.host(pfad);
+    if (ort) return Abbild(*ort, fehler);
+    fehler = kein_laufwerk();
+    return {};
+}
+
+std::error_code Dateisystem::alles_schreiben(int nummer, std::string_view bytes) const
+{
+    while (!bytes.empty()) {
+        const long n = m_aufrufe->schreiben(nummer, bytes.data(), bytes.size());
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) return grund();
+        if (n == 0) return std::make_error_code(std::errc::no_space_on_device);
+        bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+    while (m_aufrufe->sichern(nummer) != 0)
+        if (errno != EINTR) return grund();
+    return {};
+}
+
+std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view bytes) const
+{
+    std::error_code fehler;
+    const auto zustand = fs::status(ziel, fehler);
+    const bool alt_da = fs::exists(zustand);
+    if (alt_da && !fs::is_regular_file(zustand))
+        return std::make_error_code(fs::is_directory(zustand) ? std::errc::is_a_directory
+                                                              : std::errc::invalid_argument);
+    if (alt_da && (zustand.permissions() & fs::perms::owner_write) == fs::perms::none)
+        return std::make_error_code(std::errc::permission_denied);
+    std::string neu;
+    int nummer = -1;
+    for (int versuch = 0; versuch < 100 && nummer < 0; ++versuch) {
+        neu = temporaerer_name(ziel, versuch);
+        nummer = m_aufrufe->oeffnen(neu.c_str(), O_WRONLY | O_CREAT | O_EXCL, 0666);
+        if (nummer < 0 && errno != EEXIST && errno != EINTR) return grund();
+    }
+    if (nummer < 0) return grund();
+    std::error_code ergebnis = alles_schreiben(nummer, bytes);
+    if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) ergebnis = grund();
+    if (!ergebnis && alt_da) fs::permissions(aus_utf8(neu), zustand.permissions(), fehler);
+    if (!ergebnis && m_aufrufe->umbenennen(neu.c_str(), utf8(ziel).c_str()) != 0) ergebnis = grund();
+    if (ergebnis) {
+        m_aufrufe->loeschen(neu.c_str());
+        return ergebnis;
+    }
+    const fs::path ordner = ziel.parent_path().empty() ? fs::path(".") : ziel.parent_path();
+    return m_aufrufe->ordner_sichern(utf8(ordner).c_str()) != 0 ? grund() : std::error_code{};
+}
+
+std::error_code Dateisystem::schreiben(std::string_view pfad, std::string_view bytes) const
+{
+    const auto ort = m_laufwerke.host(pfad);
+    return ort ? ersetzen(link_ziel(*ort), bytes) : kein_laufwerk();
+}
+
+std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view bytes) const
+{
+    const auto ort = m_laufwerke.host(pfad);
+    if (!ort) return kein_laufwerk();
+    std::error_code fehler;
+    const auto zustand = fs::status(*ort, fehler);
+    if (!fs::exists(zustand)) return ersetzen(*ort, bytes);
+    if (!fs::is_regular_file(zustand)) return std::make_error_code(std::errc::invalid_argument);
+    const auto alte_laenge = fs::file_size(*ort, fehler);
+    const int nummer = m_aufrufe->oeffnen(utf8(*ort).c_str(), O_WRONLY | O_APPEND, 0);
+    if (nummer < 0) return grund();
+    std::error_code ergebnis = alles_schreiben(nummer, bytes);
+    if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) ergebnis = grund();
+    if (ergebnis && !fehler) fs::resize_file(*ort, alte_laenge, fehler);
+    return ergebnis;
+}
+
+std::error_code Dateisystem::kopieren(std::string_view von, std::string_view nach) const
+{
+    const auto quelle = m_laufwerke.host(von), ziel = m_laufwerke.host(nach);
+    if (!quelle || !ziel) return kein_laufwerk();
+    std::error_code fehler;
+    if (fs::equivalent(*quelle, *ziel, fehler) && !fehler) return {};
+    const Abbild bild(*quelle, fehler);
+    if (fehler) return fehler;
+    return ersetzen(link_ziel(*ziel), bild.text());
+}
+
+std::error_code Dateisystem::loeschen(std::string_view pfad) const
+{
+    const auto ort = m_laufwerke.host(pfad);
+    if (!ort) return kein_laufwerk();
+    std::error_code fehler;
+    if (fs::is_directory(*ort, fehler)) return std::make_error_code(std::errc::is_a_directory);
+#ifdef _WIN32
+    fs::permissions(*ort, fs::perms::owner_write, fs::perm_options::add, fehler);
+#endif
+    return m_aufrufe->loeschen(utf8(*ort).c_str()) != 0 ? grund() : std::error_code{};
+}
+
+std::error_code Dateisystem::ordner_anlegen(std::string_view pfad) const
+{
+    const auto ort = m_laufwerke.host(pfad);
+    if (!ort) return kein_laufwerk();
+    std::error_code fehler;
+    fs::create_directories(*ort, fehler);
+    if (!fehler && !fs::is_directory(*ort, fehler)) return std::make_error_code(std::errc::not_a_directory);
+    return fehler;
+}
+
+std::error_code Dateisystem::ordner_loeschen(std::string_view pfad) const
+{
+    const auto ort = m_laufwerke.host(pfad);
+    if (!ort) return kein_laufwerk();
+    std::error_code fehler;
+    fs::remove_all(*ort, fehler);
+    return fehler;
+}
+
+std::vector<Ordnereintrag> Dateisystem::ordner_lesen(std::string_view pfad) const
+{
+    std::vector<Ordnereintrag> eintraege;
+    const auto ort = m_laufwerke.host(pfad);
+    std::error_code fehler;
+    if (!ort) return eintraege;
+    for (fs::directory_iterator lauf(ort->empty() ? fs::path(".") : *ort, fehler), ende; !fehler && lauf != ende;
+         lauf.increment(fehler)) {
+        std::error_code ohne;
+        if (const auto name = text_aus_utf8(utf8(lauf->path().filename())))
+            eintraege.push_back({*name, lauf->is_directory(ohne)});
+    }
+    std::sort(eintraege.begin(), eintraege.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
+    return eintraege;
+}
+
+void Dateisystem::reste_wegraeumen(std::string_view ordner) const
+{
+    const auto ort = m_laufwerke.host(ordner);
+    if (!ort) return;
+    for (const auto& eintrag : ordner_lesen(ordner)) {
+        const auto stelle = eintrag.name.rfind(marke);
+        if (eintrag.ordner || stelle == std::string::npos || !eintrag.name.starts_with('.')) continue;
+        long kennung = 0;
+        const char* beginn = eintrag.name.data() + stelle + marke.size();
+        const auto [ende, fehler] = std::from_chars(beginn, eintrag.name.data() + eintrag.name.size(), kennung);
+        if (fehler != std::errc{} || *ende != '-' || prozess_lebt(kennung)) continue;
+        m_aufrufe->loeschen(utf8(*ort / aus_utf8(utf8_aus_1252(eintrag.name))).c_str());
+    }
+}
+
+}  // namespace jorv

@@ -1,0 +1,83 @@
+// Everything that the system does with files: DOS paths in, whole files or nothing out.
+// A file is written to a temporary one in the same folder, flushed to the disk and renamed over the old one, each
+// call's result checked; a crash at any instant leaves the old or the new text.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "plattform/abbild.h"
+#include "plattform/laufwerke.h"
+#include "plattform/systemaufrufe.h"
+
+namespace jorv {
+
+struct Ordnereintrag {
+    std::string name;  ///< Windows-1252
+    bool ordner = false;
+};
+
+/// All paths are DOS paths in Windows-1252, or relative to the current directory. A returned error code that is false
+/// means success.
+class Dateisystem {
+public:
+    explicit Dateisystem(Laufwerke laufwerke = Laufwerke::aus_umgebung(),
+                         const Systemaufrufe& aufrufe = Systemaufrufe::echte())
+        : m_laufwerke(std::move(laufwerke)), m_aufrufe(&aufrufe)
+    {
+    }
+
+    const Laufwerke& laufwerke() const { return m_laufwerke; }
+    /// Host path; empty when the drive doesn't exist.
+    std::filesystem::path host(std::string_view pfad) const
+    {
+        return m_laufwerke.host(pfad).value_or(std::filesystem::path{});
+    }
+
+    bool ist_datei(std::string_view pfad) const;   ///< a regular file is there
+    bool ist_ordner(std::string_view pfad) const;  ///< a folder is there
+    bool vorhanden(std::string_view pfad) const;   ///< anything is there
+    std::optional<std::uint64_t> groesse(std::string_view pfad) const;
+
+    /// The whole file; nothing when it can't be read (then `fehler` says why).
+    std::optional<std::string> lesen(std::string_view pfad) const;
+    std::optional<std::string> lesen(std::string_view pfad, std::error_code& fehler) const;
+    /// The first bytes of a file, as many as there are.
+    std::optional<std::string> anfang_lesen(std::string_view pfad, std::size_t anzahl) const;
+    /// The file mapped into memory.
+    Abbild abbilden(std::string_view pfad, std::error_code& fehler) const;
+
+    /// Replaces or creates the file whole. A target that is no regular file is refused, a symbolic link is followed.
+    [[nodiscard]] std::error_code schreiben(std::string_view pfad, std::string_view bytes) const;
+    /// Appends (creating the file) and flushes to the disk. A failed append takes the bytes back.
+    [[nodiscard]] std::error_code anhaengen(std::string_view pfad, std::string_view bytes) const;
+    /// Copies a file, replacing the target whole. A file copied onto itself stays as it is.
+    [[nodiscard]] std::error_code kopieren(std::string_view von, std::string_view nach) const;
+    /// Deletes a file, also a read-only one.
+    [[nodiscard]] std::error_code loeschen(std::string_view pfad) const;
+
+    /// Creates the folder and missing parents; an existing one is no error.
+    [[nodiscard]] std::error_code ordner_anlegen(std::string_view pfad) const;
+    /// Removes a folder with all its content.
+    [[nodiscard]] std::error_code ordner_loeschen(std::string_view pfad) const;
+    /// Files and folders of a folder, sorted by name; names that Windows-1252 can't hold are left out. Empty when it
+    /// can't be read.
+    std::vector<Ordnereintrag> ordner_lesen(std::string_view pfad) const;
+
+    /// Removes temporary files that a killed program left in the folder.
+    void reste_wegraeumen(std::string_view ordner) const;
+
+private:
+    std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes) const;
+    std::error_code alles_schreiben(int nummer, std::string_view bytes) const;
+
+    Laufwerke m_laufwerke;
+    const Systemaufrufe* m_aufrufe;
+};
+
+}  // namespace jorv

@@ -1,0 +1,45 @@
+#include <windows.h>
+
+#include "plattform/laufwerke.h"
+#include "plattform/text.h"
+
+namespace jorv {
+
+namespace fs = std::filesystem;
+
+Laufwerke Laufwerke::aus_umgebung()
+{
+    return {};
+}
+
+void Laufwerke::zuordnen(std::string_view, fs::path) {}
+
+bool Laufwerke::hat_laufwerk(std::string_view laufwerk) const
+{
+    const auto pfad = host(std::string(links(laufwerk, 2)) + "\\");
+    std::error_code fehler;
+    return pfad && fs::exists(*pfad, fehler);
+}
+
+std::optional<fs::path> Laufwerke::eintrag(const fs::path& ordner, std::string_view name)
+{
+    const fs::path pfad = ordner / fs::path(reinterpret_cast<const char8_t*>(utf8_aus_1252(name).c_str()));
+    std::error_code fehler;
+    if (!fs::exists(pfad, fehler)) return std::nullopt;
+    return pfad;
+}
+
+std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const
+{
+    return fs::path(reinterpret_cast<const char8_t*>(utf8_aus_1252(dos_pfad).c_str()));
+}
+
+std::optional<std::string> Laufwerke::dos(const fs::path& host_pfad) const
+{
+    std::error_code fehler;
+    const auto utf8 = fs::absolute(host_pfad, fehler).make_preferred().u8string();
+    if (fehler) return std::nullopt;
+    return text_aus_utf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
+}
+
+}  // namespace jorv

@@ -1,0 +1,47 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+#include "plattform/systemaufrufe.h"
+
+namespace jorv {
+
+namespace {
+
+int oeffnen(const char* pfad, int art, unsigned rechte)
+{
+    return ::open(pfad, art | O_CLOEXEC, rechte);
+}
+long lesen(int nummer, void* bytes, std::size_t anzahl)
+{
+    return ::read(nummer, bytes, anzahl);
+}
+long schreiben(int nummer, const void* bytes, std::size_t anzahl)
+{
+    return ::write(nummer, bytes, anzahl);
+}
+
+int ordner_sichern(const char* pfad)
+{
+    const int nummer = ::open(pfad, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (nummer < 0) return -1;
+    const int ergebnis = ::fsync(nummer);
+    const int grund = errno;
+    ::close(nummer);
+    errno = grund;
+    // Some network file systems can't flush a folder; the rename itself is then all that can be had.
+    return ergebnis != 0 && grund == EINVAL ? 0 : ergebnis;
+}
+
+constexpr Systemaufrufe tabelle{oeffnen, lesen, schreiben, ::fsync, ::close, ::rename, ::unlink, ordner_sichern};
+
+}  // namespace
+
+const Systemaufrufe& Systemaufrufe::echte()
+{
+    return tabelle;
+}
+
+}  // namespace jorv

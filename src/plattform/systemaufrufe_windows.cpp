@@ -1,0 +1,61 @@
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#include <windows.h>
+
+#include <cerrno>
+#include <string>
+
+#include "plattform/systemaufrufe.h"
+
+namespace jorv {
+
+namespace {
+
+std::wstring breit(const char* utf8)
+{
+    const int n = MultiByteToWideChar(CP_UTF8, 0, utf8, -1, nullptr, 0);
+    std::wstring text(static_cast<std::size_t>(n > 0 ? n - 1 : 0), L'\0');
+    if (n > 1) MultiByteToWideChar(CP_UTF8, 0, utf8, -1, text.data(), n);
+    return text;
+}
+
+int oeffnen(const char* pfad, int art, unsigned)
+{
+    return _wopen(breit(pfad).c_str(), art | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+}
+long lesen(int nummer, void* bytes, std::size_t anzahl)
+{
+    return _read(nummer, bytes, static_cast<unsigned>(anzahl));
+}
+long schreiben(int nummer, const void* bytes, std::size_t anzahl)
+{
+    constexpr std::size_t stueck = 1u << 24;
+    return _write(nummer, bytes, static_cast<unsigned>(anzahl < stueck ? anzahl : stueck));
+}
+int umbenennen(const char* alt, const char* neu)
+{
+    if (MoveFileExW(breit(alt).c_str(), breit(neu).c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        return 0;
+    errno = GetLastError() == ERROR_DISK_FULL ? ENOSPC : EACCES;
+    return -1;
+}
+int loeschen(const char* pfad)
+{
+    return _wunlink(breit(pfad).c_str());
+}
+int ordner_sichern(const char*)
+{
+    return 0;
+}
+
+constexpr Systemaufrufe tabelle{oeffnen, lesen, schreiben, _commit, _close, umbenennen, loeschen, ordner_sichern};
+
+}  // namespace
+
+const Systemaufrufe& Systemaufrufe::echte()
+{
+    return tabelle;
+}
+
+}  // namespace jorv

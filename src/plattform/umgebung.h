@@ -1,0 +1,27 @@
+// What the running program finds around it: its own folder, the folders of the user, programs by name, process numbers.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace jorv {
+
+/// The number of this process, and whether a process of that number still runs.
+long prozess_kennung();
+bool prozess_lebt(long kennung);
+
+/// Host folder of the running program.
+std::filesystem::path programm_ordner();
+
+/// The user's documents folder (Linux: XDG_DOCUMENTS_DIR of the user's directories, else ~/Dokumente when it exists,
+/// else
+/// ~/Documents).
+std::filesystem::path dokumente_ordner();
+
+/// The system directory of older settings files (Linux: /etc/jorvplus).
+std::filesystem::path system_ordner();
+
+/// The program of that name beside the running program, else in PATH; empty when there is none.
+std::filesystem::path programm_finden(const std::string& name);
+
+}  // namespace jorv

@@ -1,0 +1,70 @@
+#include "plattform/umgebung.h"
+
+#include <shlobj.h>
+#include <windows.h>
+
+#include <string_view>
+
+namespace jorv {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::wstring breit(std::string_view utf8)
+{
+    const int laenge = static_cast<int>(utf8.size());
+    std::wstring text(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, nullptr, 0)),
+                      L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, text.data(), static_cast<int>(text.size()));
+    return text;
+}
+
+}  // namespace
+
+long prozess_kennung()
+{
+    return static_cast<long>(GetCurrentProcessId());
+}
+
+bool prozess_lebt(long kennung)
+{
+    const HANDLE prozess = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(kennung));
+    if (!prozess) return false;
+    const bool lebt = WaitForSingleObject(prozess, 0) == WAIT_TIMEOUT;
+    CloseHandle(prozess);
+    return lebt;
+}
+
+fs::path programm_ordner()
+{
+    wchar_t puffer[32768];
+    const DWORD n = GetModuleFileNameW(nullptr, puffer, 32768);
+    return fs::path(std::wstring(puffer, n)).parent_path();
+}
+
+fs::path dokumente_ordner()
+{
+    wchar_t puffer[MAX_PATH * 2] = {};
+    SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, 0, puffer);
+    return puffer;
+}
+
+fs::path system_ordner()
+{
+    wchar_t puffer[145] = {};
+    GetWindowsDirectoryW(puffer, 145);
+    return puffer;
+}
+
+fs::path programm_finden(const std::string& name)
+{
+    const fs::path neben = programm_ordner() / breit(name + ".exe");
+    std::error_code fehler;
+    if (fs::exists(neben, fehler)) return neben;
+    wchar_t puffer[32768];
+    const DWORD n = SearchPathW(nullptr, breit(name).c_str(), L".exe", 32768, puffer, nullptr);
+    return n > 0 ? fs::path(std::wstring(puffer, n)) : fs::path{};
+}
+
+}  // namespace jorv

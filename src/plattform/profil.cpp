@@ -1,6 +1,6 @@
 #include "plattform/profil.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "plattform/text.h"
 

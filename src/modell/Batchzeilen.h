@@ -1,0 +1,18 @@
+// The lines of a batch file that lead into the project's folder; every generator and the WATIME call begin with them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace jorv {
+
+/// The root of a work directory without its last character: "D:" of "D:\a\b", "\\server" of "\\server\a\b".
+std::string batch_laufwerk(std::string_view verzeichnis);
+
+/// "cd " and the work directory from its root's last character on, recoded for the console.
+std::string batch_cd(std::string_view verzeichnis);
+
+/// "path %path%;" and the directory of the suite, recoded for the console.
+std::string batch_path(std::string_view exe_verzeichnis);
+
+}  // namespace jorv

@@ -1,0 +1,104 @@
+// The double of the port: records every message word for word, answers questions and dialogs from queues.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "plattform/oberflaeche.h"
+#include "plattform/text.h"
+
+namespace jorv::hilfen {
+
+struct Gezeigtes {
+    Symbol symbol = Symbol::keins;
+    std::string text;  ///< Windows-1252
+    std::string titel;
+    bool frage = false;
+};
+
+class Pruefschirm final : public Oberflaeche {
+public:
+    using Oberflaeche::frage;
+    using Oberflaeche::meldung;
+    void meldung(Symbol symbol, std::string_view text, std::string_view titel) override
+    {
+        gezeigt.push_back({symbol, std::string(text), std::string(titel), false});
+    }
+    Antwort frage(Symbol symbol, std::string_view text, Antwort vorgabe, std::string_view titel) override
+    {
+        gezeigt.push_back({symbol, std::string(text), std::string(titel), true});
+        if (antworten.empty()) return vorgabe;
+        const Antwort antwort = antworten.front();
+        antworten.pop_front();
+        return antwort;
+    }
+    void fortschritt_zeigen(std::string_view text) override { fortschritt.emplace_back(text); }
+    void fortschritt_setzen(double prozent) override { prozente.push_back(prozent); }
+    void fortschritt_verbergen() override { fortschritt.emplace_back("(verborgen)"); }
+    bool ereignisse() override
+    {
+        ++ereignisse_zahl;
+        if (bei_ereignissen) bei_ereignissen();
+        return abbruch_nach > 0 && ereignisse_zahl >= abbruch_nach;
+    }
+    void baum_erneuern() override { ++baum_erneuert; }
+    void karte_zeichnen(bool) override { ++karte_gezeichnet; }
+    void menue_erneuern() override { ++menue_erneuert; }
+    void liste_erneuern() override { ++liste_erneuert; }
+    void titel_setzen(std::string_view neu) override { titel = neu; }
+    void piepen() override { ++gepiept; }
+    bool im_editor_oeffnen(std::string_view pfad) override
+    {
+        geoeffnet.emplace_back(pfad);
+        return true;
+    }
+    std::optional<Dateiwahl> dateien_waehlen(Dateiart, std::string_view) override
+    {
+        if (dateiwahlen.empty()) return std::nullopt;
+        auto wahl = dateiwahlen.front();
+        dateiwahlen.pop_front();
+        return wahl;
+    }
+    std::optional<Verfahrenswahl> neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view) override
+    {
+        vorschlaege.push_back(vorschlag);
+        if (verfahrenswahlen.empty()) return std::nullopt;
+        auto wahl = verfahrenswahlen.front();
+        verfahrenswahlen.pop_front();
+        return wahl;
+    }
+
+    /// The texts of all messages and questions, as UTF-8, in order.
+    std::vector<std::string> texte() const
+    {
+        std::vector<std::string> alle;
+        for (const auto& g : gezeigt) alle.push_back(utf8_aus_1252(g.text));
+        return alle;
+    }
+    /// The only message shown (UTF-8); tells how many there were otherwise.
+    std::string einzige() const
+    {
+        if (gezeigt.size() == 1) return utf8_aus_1252(gezeigt[0].text);
+        std::string alle = std::to_string(gezeigt.size()) + " messages:";
+        for (const auto& t : texte()) alle += "\n---\n" + t;
+        return alle;
+    }
+
+    std::vector<Gezeigtes> gezeigt;
+    std::deque<Antwort> antworten;  ///< used up in order, then the question's default
+    std::deque<std::optional<Dateiwahl>> dateiwahlen;
+    std::deque<std::optional<Verfahrenswahl>> verfahrenswahlen;
+    std::vector<Verfahrenswahl> vorschlaege;
+    std::vector<std::string> fortschritt, geoeffnet;
+    std::vector<double> prozente;
+    std::string titel;
+    int baum_erneuert = 0, karte_gezeichnet = 0, menue_erneuert = 0, liste_erneuert = 0, gepiept = 0;
+    int ereignisse_zahl = 0;
+    int abbruch_nach = 0;  ///< the abort button counts as pressed from this event on; 0 never
+    std::function<void()> bei_ereignissen;
+};
+
+}  // namespace jorv::hilfen

@@ -8,10 +8,6 @@
 
 namespace jorv {
 
-struct Koordinatensystem {
-    std::int32_t system = 0, ellipsoid = 0, art = 0;
-};
-
 /// Registers the system; status 0 only for the one that this program knows (system 1, ellipsoid code 4, type code 2).
 void DEFSYSTEM(std::int32_t system, std::int32_t ellipsoid, std::int32_t art, std::int32_t& status);
 
@@ -27,7 +23,7 @@ void GEGGKO(std::int32_t system, double breite, double laenge, std::int32_t zone
 /// A polygon as the pair UMRPOL and UMRPIP exchanges it.
 struct Polygon {
     std::int32_t anzahl = 0;
-    std::array<double, 300> x{}, y{};
+    std::array<double, 300> x, y;  // only the first `anzahl` are set
 };
 
 /// Prepares a polygon (vertices in the order given).

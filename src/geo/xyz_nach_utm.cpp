@@ -22,8 +22,16 @@ Fehler xyz_nach_utm(double X, double Y, double Z, double& Rechtswert, double& Ho
 
 bool punkt_in_figur(const GEO_Punkt_Satz& figur, double Rechtswert, double Hochwert)
 {
+    const int anzahl = std::clamp(figur.Anzahl, 0, 4);
+    if (anzahl < 3) return false;
+    // Most rovers lie outside a figure's frame: they need no closer look.
+    const auto [links, rechts] = std::minmax_element(figur.Rechtswert.begin(), figur.Rechtswert.begin() + anzahl);
+    const auto [unten, oben] = std::minmax_element(figur.Hochwert.begin(), figur.Hochwert.begin() + anzahl);
+    constexpr double rand = 0.01;
+    if (Rechtswert < *links - rand || Rechtswert > *rechts + rand || Hochwert < *unten - rand || Hochwert > *oben + rand)
+        return false;
     Polygon ecken, vorbereitet;
-    ecken.anzahl = std::clamp(figur.Anzahl, 0, 4);
+    ecken.anzahl = anzahl;
     for (std::size_t i = 0; i < static_cast<std::size_t>(ecken.anzahl); ++i) {
         ecken.x[i] = figur.Rechtswert[i];
         ecken.y[i] = figur.Hochwert[i];

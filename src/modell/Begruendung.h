@@ -9,7 +9,7 @@
 
 namespace jorv {
 
-/// One station file that was looked at for a rover.
+/// One station file that was looked at for a rover (mode F: one that was nearer than the choice so far).
 struct Dateiurteil {
     std::string TOREL_Dateiname;
     std::string Punktkennzeichen;
@@ -17,6 +17,8 @@ struct Dateiurteil {
     std::int64_t Minuten_vorher = 0;   ///< calendar minutes by which it begins too late (0: in time)
     std::int64_t Minuten_nachher = 0;  ///< calendar minutes by which it ends too early
     std::int64_t Sekunden_vorher = 0, Sekunden_nachher = 0;  ///< the same in seconds, for gaps below a minute
+    std::int64_t Minuten_Laenge = 0;                         ///< mode F: length of the file, at least 60 is asked for
+    double Strecke = 0;                                      ///< mode F: distance to the rover, metres
 };
 
 enum class Pruefung : std::uint8_t {
@@ -32,7 +34,9 @@ enum class Pruefung : std::uint8_t {
     lang_genug,      ///< at least 60 minutes
     spanne_zu_kurz,  ///< stations offer less than an hour
     spanne_reicht,
-    spanne_endet_zu_frueh
+    spanne_endet_zu_frueh,
+    fremde_zugeordnet,  ///< mode F: the nearest usable foreign station
+    keine_fremde        ///< mode F: none covers the rover with an hour of data
 };
 
 struct Begruendung {

@@ -77,7 +77,7 @@ struct Global {
     std::array<std::string, 8> KNOTEN = {"1", "1", "1", "1", "1", "1", "1", "1"};  ///< slots 1 to 7 in use
     Feld<TOREL_Punkt_Satz> TOREL_Punkt;
     Feld<Lnd_Satz> Lnd;
-    std::vector<std::int16_t> tage = {0};  ///< distinct day numbers, ascending, from index 1
+    Feld<std::int16_t> tage;  ///< distinct day numbers of the observation records, ascending
     std::int16_t zeit_tag = 0;
 
     // Commands that are off without an open project or after a failed open.

@@ -1,8 +1,7 @@
 #include "simulator/simulator.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <memory>
+#include <fstream>
 #include <system_error>
 
 #include "simulator/datei.h"
@@ -15,13 +14,16 @@ namespace jorv::simulator {
 bool datei_schreiben(const std::filesystem::path& datei, std::initializer_list<std::string_view> stuecke,
                      std::string& meldung)
 {
-    std::FILE* f = std::fopen(datei.string().c_str(), "wb");
-    bool gut = f != nullptr;
-    for (const std::string_view stueck : stuecke) {
-        gut = gut && std::fwrite(stueck.data(), 1, stueck.size(), f) == stueck.size();
+    std::ofstream f(datei, std::ios::binary);
+    for (const std::string_view stueck : stuecke) f.write(stueck.data(), static_cast<std::streamsize>(stueck.size()));
+    f.close();
+    const bool gut = f.good();
+    if (!gut) {
+        // Half a file would look like a short session.
+        std::error_code fehler;
+        if (std::filesystem::is_regular_file(datei, fehler)) std::filesystem::remove(datei, fehler);
+        meldung = "Die Datei " + datei.string() + " konnte nicht geschrieben werden!";
     }
-    if (f != nullptr && std::fclose(f) != 0) gut = false;
-    if (!gut) meldung = "Die Datei " + datei.string() + " konnte nicht geschrieben werden!";
     return gut;
 }
 
@@ -49,8 +51,9 @@ namespace {
 /// What the file format can't hold or the model can't compute, as a sentence; empty when all is well.
 std::string mangel(const Szenario& s)
 {
-    if (!std::chrono::year_month_day(tageszahl(s.tag)).ok() || spaeter(s.tag, 0).tag != s.tag.tag ||
-        spaeter(s.tag, 0).monat != s.tag.monat || gps_tag(s.tag) < 7 || s.tag.jahr > 2079) {
+    // 30 February comes back as another day; two digits of the year reach from 1980 to 2079.
+    const Kalendertag tag = spaeter(s.tag, 0);
+    if (tag.tag != s.tag.tag || tag.monat != s.tag.monat || gps_tag(s.tag) < 7 || s.tag.jahr > 2079) {
         return "Der Tag ist ungültig!";
     }
     if (s.satelliten < 24 || s.satelliten > 32) return "Die Zahl der Satelliten muss zwischen 24 und 32 liegen!";

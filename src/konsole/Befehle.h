@@ -1,0 +1,23 @@
+// All commands, in the order of the help. Each group stands beside its functions.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "konsole/Befehl.h"
+
+namespace jorv {
+
+std::span<const Befehl> befehle_hilfe();
+
+/// Every command once.
+std::span<const Befehl* const> alle_befehle();
+
+/// The line of a command: "jorv neu NAME ...".
+std::string befehl_zeile(const Befehl& befehl);
+
+/// Overview of all commands, UTF-8.
+std::string hilfe_uebersicht();
+
+}  // namespace jorv

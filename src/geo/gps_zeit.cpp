@@ -24,6 +24,8 @@ Fehler watime(Global& g, std::string_view watime_zeile, std::string& antwort)
                                      u8"der Batchdatei konnte nicht angelegt/überschrieben werden!"_w));
         return Fehler::gesetzt;
     }
+    // An answer of an earlier call must not be taken for this one.
+    if (g.dateien.ist_datei(datum)) (void)g.dateien.loeschen(datum);
     prozess_warten(g.dateien, verkettet("\"", aufruf, "\""));
     if (!g.dateien.vorhanden(datum)) {
         stop_melden(g, datei_meldung("Die Datumsdatei:", datum, u8"konnte nicht geöffnet werden!"_w));

@@ -28,7 +28,8 @@ bool punkt_in_figur(const GEO_Punkt_Satz& figur, double Rechtswert, double Hochw
     const auto [links, rechts] = std::minmax_element(figur.Rechtswert.begin(), figur.Rechtswert.begin() + anzahl);
     const auto [unten, oben] = std::minmax_element(figur.Hochwert.begin(), figur.Hochwert.begin() + anzahl);
     constexpr double rand = 0.01;
-    if (Rechtswert < *links - rand || Rechtswert > *rechts + rand || Hochwert < *unten - rand || Hochwert > *oben + rand)
+    if (Rechtswert < *links - rand || Rechtswert > *rechts + rand || Hochwert < *unten - rand ||
+        Hochwert > *oben + rand)
         return false;
     Polygon ecken, vorbereitet;
     ecken.anzahl = anzahl;

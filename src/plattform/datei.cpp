@@ -97,19 +97,28 @@ std::optional<std::string> Dateisystem::lesen(std::string_view pfad, std::error_
 
 std::optional<std::string> Dateisystem::anfang_lesen(std::string_view pfad, std::size_t anzahl) const
 {
+    Gelesen gelesen = lesen_stufenweise(pfad, anzahl);
+    // A close that fails behind a good read has lost nothing.
+    if (!gelesen.gut() && gelesen.stufe != Dateistufe::schliessen) return std::nullopt;
+    return std::move(gelesen.text);
+}
+
+Gelesen Dateisystem::lesen_stufenweise(std::string_view pfad, std::size_t hoechstens) const
+{
     std::error_code fehler;
     const auto ort = m_laufwerke.host(pfad);
     if (!ort || !fs::is_regular_file(*ort, fehler)) {
         errno = ort && fs::is_directory(*ort, fehler) ? EISDIR : ENOENT;
-        return std::nullopt;
+        return {};
     }
     const int nummer = m_aufrufe->oeffnen(utf8(*ort).c_str(), O_RDONLY, 0);
-    if (nummer < 0) return std::nullopt;
-    std::string text;
+    if (nummer < 0) return {};
+    Gelesen gelesen{"", Dateistufe::gut};
+    std::string& text = gelesen.text;
     const auto laenge = fs::file_size(*ort, fehler);
-    std::size_t platz = std::min<std::size_t>(fehler ? 65536 : static_cast<std::size_t>(laenge) + 1, anzahl);
+    std::size_t platz = std::min<std::size_t>(fehler ? 65536 : static_cast<std::size_t>(laenge) + 1, hoechstens);
     int fehlernummer = 0;
-    while (text.size() < anzahl) {
+    while (text.size() < hoechstens) {
         const std::size_t alt = text.size();
         text.resize(alt + std::max<std::size_t>(platz, 1));
         const long n = m_aufrufe->lesen(nummer, text.data() + alt, text.size() - alt);
@@ -120,12 +129,15 @@ std::optional<std::string> Dateisystem::anfang_lesen(std::string_view pfad, std:
         if (n < 0) fehlernummer = errno;
         text.resize(alt + static_cast<std::size_t>(std::max(n, 0L)));
         if (n <= 0) break;
-        platz = std::min<std::size_t>(65536, anzahl - text.size());
+        platz = std::min<std::size_t>(65536, hoechstens - text.size());
     }
-    m_aufrufe->schliessen(nummer);
+    if (fehlernummer != 0) gelesen.stufe = Dateistufe::lesen;
+    if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && gelesen.gut()) {
+        gelesen.stufe = Dateistufe::schliessen;
+        fehlernummer = errno;
+    }
     errno = fehlernummer;
-    if (fehlernummer != 0) return std::nullopt;
-    return text;
+    return gelesen;
 }
 
 Abbild Dateisystem::abbilden(std::string_view pfad, std::error_code& fehler) const
@@ -150,8 +162,9 @@ std::error_code Dateisystem::alles_schreiben(int nummer, std::string_view bytes)
     return {};
 }
 
-std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view bytes) const
+std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view bytes, Dateistufe& stufe) const
 {
+    stufe = Dateistufe::oeffnen;
     std::error_code fehler;
     const auto zustand = fs::status(ziel, fehler);
     const bool alt_da = fs::exists(zustand);
@@ -168,8 +181,12 @@ std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view byt
         if (nummer < 0 && errno != EEXIST && errno != EINTR) return grund();
     }
     if (nummer < 0) return grund();
+    stufe = Dateistufe::schreiben;
     std::error_code ergebnis = alles_schreiben(nummer, bytes);
-    if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) ergebnis = grund();
+    if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) {
+        ergebnis = grund();
+        stufe = Dateistufe::schliessen;
+    }
     if (!ergebnis && alt_da) fs::permissions(aus_utf8(neu), zustand.permissions(), fehler);
     if (!ergebnis && m_aufrufe->umbenennen(neu.c_str(), utf8(ziel).c_str()) != 0) ergebnis = grund();
     if (ergebnis) {
@@ -177,13 +194,24 @@ std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view byt
         return ergebnis;
     }
     const fs::path ordner = ziel.parent_path().empty() ? fs::path(".") : ziel.parent_path();
-    return m_aufrufe->ordner_sichern(utf8(ordner).c_str()) != 0 ? grund() : std::error_code{};
+    if (m_aufrufe->ordner_sichern(utf8(ordner).c_str()) != 0) return grund();
+    stufe = Dateistufe::gut;
+    return {};
 }
 
 std::error_code Dateisystem::schreiben(std::string_view pfad, std::string_view bytes) const
 {
+    Dateistufe stufe;
     const auto ort = m_laufwerke.host(pfad);
-    return ort ? ersetzen(link_ziel(*ort), bytes) : kein_laufwerk();
+    return ort ? ersetzen(link_ziel(*ort), bytes, stufe) : kein_laufwerk();
+}
+
+Dateistufe Dateisystem::schreiben_stufenweise(std::string_view pfad, std::string_view bytes) const
+{
+    Dateistufe stufe = Dateistufe::oeffnen;
+    const auto ort = m_laufwerke.host(pfad);
+    if (ort && !ersetzen(link_ziel(*ort), bytes, stufe)) return Dateistufe::gut;
+    return stufe;
 }
 
 std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view bytes) const
@@ -192,7 +220,8 @@ std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view b
     if (!ort) return kein_laufwerk();
     std::error_code fehler;
     const auto zustand = fs::status(*ort, fehler);
-    if (!fs::exists(zustand)) return ersetzen(*ort, bytes);
+    Dateistufe stufe;
+    if (!fs::exists(zustand)) return ersetzen(*ort, bytes, stufe);
     if (!fs::is_regular_file(zustand)) return std::make_error_code(std::errc::invalid_argument);
     const auto alte_laenge = fs::file_size(*ort, fehler);
     const int nummer = m_aufrufe->oeffnen(utf8(*ort).c_str(), O_WRONLY | O_APPEND, 0);
@@ -211,7 +240,8 @@ std::error_code Dateisystem::kopieren(std::string_view von, std::string_view nac
     if (fs::equivalent(*quelle, *ziel, fehler) && !fehler) return {};
     const Abbild bild(*quelle, fehler);
     if (fehler) return fehler;
-    return ersetzen(link_ziel(*ziel), bild.text());
+    Dateistufe stufe;
+    return ersetzen(link_ziel(*ziel), bild.text(), stufe);
 }
 
 std::error_code Dateisystem::loeschen(std::string_view pfad) const

@@ -17,6 +17,15 @@
 
 namespace jorv {
 
+/// The step of reading or writing a file that failed; messages tell them apart.
+enum class Dateistufe { gut, oeffnen, lesen, schreiben, schliessen };
+
+struct Gelesen {
+    std::string text;
+    Dateistufe stufe = Dateistufe::oeffnen;
+    bool gut() const { return stufe == Dateistufe::gut; }
+};
+
 struct Ordnereintrag {
     std::string name;  ///< Windows-1252
     bool ordner = false;
@@ -47,6 +56,8 @@ public:
     /// The whole file; nothing when it can't be read (then `fehler` says why).
     std::optional<std::string> lesen(std::string_view pfad) const;
     std::optional<std::string> lesen(std::string_view pfad, std::error_code& fehler) const;
+    /// The whole file, with the step that failed.
+    Gelesen lesen_stufenweise(std::string_view pfad, std::size_t hoechstens = std::string::npos) const;
     /// The first bytes of a file, as many as there are.
     std::optional<std::string> anfang_lesen(std::string_view pfad, std::size_t anzahl) const;
     /// The file mapped into memory.
@@ -54,6 +65,8 @@ public:
 
     /// Replaces or creates the file whole. A target that is no regular file is refused, a symbolic link is followed.
     [[nodiscard]] std::error_code schreiben(std::string_view pfad, std::string_view bytes) const;
+    /// The same, with the step that failed: oeffnen (it couldn't be created), schreiben, schliessen.
+    [[nodiscard]] Dateistufe schreiben_stufenweise(std::string_view pfad, std::string_view bytes) const;
     /// Appends (creating the file) and flushes to the disk. A failed append takes the bytes back.
     [[nodiscard]] std::error_code anhaengen(std::string_view pfad, std::string_view bytes) const;
     /// Copies a file, replacing the target whole. A file copied onto itself stays as it is.
@@ -73,7 +86,7 @@ public:
     void reste_wegraeumen(std::string_view ordner) const;
 
 private:
-    std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes) const;
+    std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes, Dateistufe& stufe) const;
     std::error_code alles_schreiben(int nummer, std::string_view bytes) const;
 
     Laufwerke m_laufwerke;

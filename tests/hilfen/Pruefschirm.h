@@ -48,7 +48,7 @@ public:
     void karte_zeichnen(bool) override { ++karte_gezeichnet; }
     void menue_erneuern() override { ++menue_erneuert; }
     void liste_erneuern() override { ++liste_erneuert; }
-    void titel_setzen(std::string_view neu) override { titel = neu; }
+    void titel_setzen(std::string_view neu) override { fenstertitel = neu; }
     void piepen() override { ++gepiept; }
     bool im_editor_oeffnen(std::string_view pfad) override
     {
@@ -94,7 +94,7 @@ public:
     std::vector<Verfahrenswahl> vorschlaege;
     std::vector<std::string> fortschritt, geoeffnet;
     std::vector<double> prozente;
-    std::string titel;
+    std::string fenstertitel;
     int baum_erneuert = 0, karte_gezeichnet = 0, menue_erneuert = 0, liste_erneuert = 0, gepiept = 0;
     int ereignisse_zahl = 0;
     int abbruch_nach = 0;  ///< the abort button counts as pressed from this event on; 0 never

@@ -1,0 +1,202 @@
+#include "plattform/datei.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+
+#include "hilfen/Projekt.h"
+#include "plattform/sperre.h"
+
+namespace jorv {
+
+namespace fs = std::filesystem;
+using hilfen::Arbeitsordner;
+
+namespace {
+
+// A table whose n-th call fails; what each call would do comes from the real one.
+int zaehler = 0, scheitert_bei = 0, grund_des_scheiterns = EIO;
+bool sterben = false;
+
+bool scheitert()
+{
+    if (++zaehler != scheitert_bei) return false;
+    if (sterben) ::raise(SIGKILL);
+    errno = grund_des_scheiterns;
+    return true;
+}
+
+const Systemaufrufe kaputte_tabelle{
+    [](const char* p, int a, unsigned r) { return scheitert() ? -1 : Systemaufrufe::echte().oeffnen(p, a, r); },
+    [](int n, void* b, std::size_t a) { return scheitert() ? -1L : Systemaufrufe::echte().lesen(n, b, a); },
+    [](int n, const void* b, std::size_t a) {
+        // Never more than 7 bytes at once: a short write is no error.
+        return scheitert() ? -1L : Systemaufrufe::echte().schreiben(n, b, a < 7 ? a : 7);
+    },
+    [](int n) { return scheitert() ? -1 : Systemaufrufe::echte().sichern(n); },
+    [](int n) {
+        const int ergebnis = Systemaufrufe::echte().schliessen(n);
+        return scheitert() ? -1 : ergebnis;
+    },
+    [](const char* a, const char* b) { return scheitert() ? -1 : Systemaufrufe::echte().umbenennen(a, b); },
+    [](const char* p) { return Systemaufrufe::echte().loeschen(p); },
+    [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().ordner_sichern(p); }};
+
+void fehler_bei(int n, int grund = EIO)
+{
+    zaehler = 0;
+    scheitert_bei = n;
+    grund_des_scheiterns = grund;
+    sterben = false;
+}
+
+const std::string alt = "[A]\r\nalter Text=1\r\n", neu = "[A]\r\nneuer, laengerer Text=2\r\n";
+
+}  // namespace
+
+TEST(Datei, JederEinzelneFehlschlagLaesstAltOderNeuGanz)
+{
+    const Arbeitsordner ordner;
+    const fs::path ziel = ordner.host() / "001.INI";
+    const Dateisystem dateien({}, kaputte_tabelle);
+    for (const int grund : {EIO, ENOSPC, EACCES, EINTR}) {
+        for (int n = 1; n < 60; ++n) {
+            hilfen::schreiben(ziel, alt);
+            fehler_bei(n, grund);
+            const auto fehler = dateien.schreiben(ordner.dos() + "\\001.INI", neu);
+            const std::string danach = hilfen::lesen(ziel);
+            EXPECT_TRUE(danach == alt || danach == neu) << n;
+            EXPECT_TRUE(fehler || danach == neu) << n;
+            EXPECT_EQ(std::distance(fs::directory_iterator(ordner.host()), {}), 1) << "left-over file, call " << n;
+            if (zaehler < n) {
+                EXPECT_FALSE(fehler);
+                break;
+            }
+        }
+    }
+}
+
+TEST(Datei, JederMomentDesTodesLaesstAltOderNeuGanzUndDerRestWirdWeggeraeumt)
+{
+    const Arbeitsordner ordner;
+    const fs::path ziel = ordner.host() / "001.INI";
+    const Dateisystem dateien({}, kaputte_tabelle);
+    bool gelungen = false;
+    for (int n = 1; n < 60 && !gelungen; ++n) {
+        hilfen::schreiben(ziel, alt);
+        const pid_t kind = ::fork();
+        if (kind == 0) {
+            fehler_bei(n);
+            sterben = true;
+            ::_exit(dateien.schreiben(ordner.dos() + "\\001.INI", neu) ? 1 : 0);
+        }
+        int status = 0;
+        ::waitpid(kind, &status, 0);
+        gelungen = WIFEXITED(status);
+        const std::string danach = hilfen::lesen(ziel);
+        EXPECT_TRUE(danach == alt || danach == neu) << n;
+        dateien.reste_wegraeumen(ordner.dos());
+        EXPECT_EQ(std::distance(fs::directory_iterator(ordner.host()), {}), 1) << "left-over file, call " << n;
+    }
+    EXPECT_TRUE(gelungen);
+}
+
+TEST(Datei, EinVollerDatentraegerBehaeltDenAltenText)
+{
+    const Arbeitsordner ordner;
+    const std::string einhaengen = "mount -t tmpfs -o size=64k tmpfs " + ordner.host().string() + " 2>/dev/null";
+    if (std::system(einhaengen.c_str()) != 0) GTEST_SKIP() << "a small tmpfs needs root";
+    const Dateisystem dateien;
+    const std::string pfad = ordner.dos() + "\\001.INI";
+    EXPECT_FALSE(dateien.schreiben(pfad, alt));
+    EXPECT_EQ(dateien.schreiben(pfad, std::string(100000, 'x')), std::errc::no_space_on_device);
+    EXPECT_EQ(dateien.lesen(pfad), alt);
+    EXPECT_EQ(dateien.anhaengen(pfad, std::string(100000, 'x')), std::errc::no_space_on_device);
+    EXPECT_EQ(dateien.lesen(pfad), alt);
+    EXPECT_EQ(std::system(("umount " + ordner.host().string()).c_str()), 0);
+}
+
+TEST(Datei, ZieleDieKeineDateiSindWerdenAbgelehntVerweiseVerfolgt)
+{
+    const Arbeitsordner ordner;
+    const Dateisystem dateien;
+    fs::create_directory(ordner.host() / "ordner");
+    ASSERT_EQ(::mkfifo((ordner.host() / "rohr").c_str(), 0600), 0);
+    hilfen::schreiben(ordner.host() / "ziel.txt", alt);
+    fs::create_symlink("ziel.txt", ordner.host() / "verweis.txt");
+    EXPECT_TRUE(dateien.schreiben(ordner.dos() + "\\ordner", neu));
+    EXPECT_TRUE(dateien.schreiben(ordner.dos() + "\\rohr", neu));
+    EXPECT_FALSE(dateien.lesen(ordner.dos() + "\\rohr"));
+    EXPECT_FALSE(dateien.schreiben(ordner.dos() + "\\verweis.txt", neu));
+    EXPECT_TRUE(fs::is_symlink(ordner.host() / "verweis.txt"));
+    EXPECT_EQ(hilfen::lesen(ordner.host() / "ziel.txt"), neu);
+}
+
+TEST(Datei, NamenWerdenOhneGrossUndKleinGefundenUndBehalten)
+{
+    const Arbeitsordner ordner("Verfahren Süd");
+    const Dateisystem dateien;
+    const std::string wurzel = ordner.dos();
+    EXPECT_FALSE(dateien.schreiben(wurzel + "\\Pr" + std::string(u8"ü"_w) + "f.Txt", alt));
+    EXPECT_FALSE(dateien.schreiben(gross(wurzel) + "\\PR" + std::string(u8"Ü"_w) + "F.TXT", neu));
+    const auto eintraege = dateien.ordner_lesen(wurzel);
+    ASSERT_EQ(eintraege.size(), 1u);
+    EXPECT_EQ(eintraege[0].name, u8"Prüf.Txt"_w);
+    EXPECT_EQ(dateien.lesen(wurzel + "\\" + eintraege[0].name), neu);
+}
+
+TEST(Datei, LaufwerkeUndFreigabenStehenInDerTabelle)
+{
+    const Arbeitsordner ordner;
+    Laufwerke laufwerke;
+    laufwerke.zuordnen("D:", ordner.host());
+    laufwerke.zuordnen("\\\\srv\\netz", ordner.wurzel());
+    const Dateisystem dateien(laufwerke);
+    EXPECT_FALSE(dateien.schreiben("d:\\a.txt", alt));
+    EXPECT_EQ(dateien.lesen("\\\\SRV\\Netz\\p\\A.TXT"), alt);
+    EXPECT_EQ(laufwerke.dos(ordner.host() / "a.txt"), "D:\\a.txt");
+    EXPECT_EQ(laufwerke.dos(ordner.wurzel() / "q"), "\\\\srv\\netz\\q");
+    EXPECT_TRUE(dateien.schreiben("E:\\a.txt", alt));
+    EXPECT_FALSE(dateien.vorhanden("\\\\srv\\anderes\\a"));
+    EXPECT_EQ(Laufwerke().dos("/"), "Z:\\");
+    EXPECT_FALSE(Laufwerke().dos("/tmp/\xE4\xB8\xAD"));
+}
+
+TEST(Datei, AnhaengenKopierenLoeschen)
+{
+    const Arbeitsordner ordner;
+    const Dateisystem dateien;
+    const std::string a = ordner.dos() + "\\a", b = ordner.dos() + "\\b";
+    EXPECT_FALSE(dateien.anhaengen(a, "eins"));
+    EXPECT_FALSE(dateien.anhaengen(a, "zwei"));
+    EXPECT_EQ(dateien.lesen(a), "einszwei");
+    EXPECT_FALSE(dateien.kopieren(a, b));
+    EXPECT_FALSE(dateien.kopieren(a, a));
+    EXPECT_EQ(dateien.lesen(b), "einszwei");
+    EXPECT_EQ(dateien.lesen(a), "einszwei");
+    fs::permissions(ordner.host() / "b", fs::perms::owner_read);
+    EXPECT_FALSE(dateien.loeschen(b));
+    EXPECT_TRUE(dateien.loeschen(b));
+    EXPECT_EQ(dateien.lesen_stufenweise(b).stufe, Dateistufe::oeffnen);
+}
+
+TEST(Datei, EineSperreSchliesstAndereAusUndVerschwindetMitIhremProgramm)
+{
+    const Arbeitsordner ordner;
+    const Dateisystem dateien;
+    const std::string pfad = ordner.dos() + "\\JorvPlus.INI";
+    {
+        const Sperre erste(dateien, pfad, 0);
+        EXPECT_TRUE(erste.gehalten());
+        EXPECT_FALSE(Sperre(dateien, pfad, 30).gehalten());
+    }
+    EXPECT_TRUE(Sperre(dateien, pfad, 0).gehalten());
+    EXPECT_TRUE(fs::is_empty(ordner.host()));
+}
+
+}  // namespace jorv

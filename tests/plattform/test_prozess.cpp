@@ -1,0 +1,62 @@
+#include "plattform/prozess.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+
+#include "hilfen/Projekt.h"
+#include "plattform/pfad.h"
+#include "plattform/umgebung.h"
+
+namespace jorv {
+
+namespace fs = std::filesystem;
+
+namespace {
+fs::path skript(const hilfen::Arbeitsordner& ordner, const std::string& inhalt)
+{
+    const fs::path pfad = ordner.host() / "kind";
+    hilfen::schreiben(pfad, "#!/bin/sh\n" + inhalt + "\n");
+    fs::permissions(pfad, fs::perms::owner_all);
+    return pfad;
+}
+}  // namespace
+
+TEST(Prozess, StatusFehlerausgabeUndOrdnerKommenZurueck)
+{
+    const hilfen::Arbeitsordner ordner;
+    const auto ende =
+        programm_ausfuehren(skript(ordner, "pwd >&2; echo \"$1|$2\" >&2; exit 7"), {"a b", "c\"d"}, ordner.host(), 10);
+    EXPECT_TRUE(ende.gestartet);
+    EXPECT_EQ(ende.status, 7);
+    EXPECT_EQ(ende.fehlerausgabe, ordner.host().string() + "\na b|c\"d\n");
+    EXPECT_FALSE(programm_ausfuehren(ordner.host() / "fehlt", {}, ordner.host(), 10).gestartet);
+    EXPECT_EQ(programm_ausfuehren(skript(ordner, "kill -9 $$"), {}, ordner.host(), 10).status, 128 + SIGKILL);
+}
+
+TEST(Prozess, EinHaengendesKindEndetMitSeinerGanzenGruppe)
+{
+    const hilfen::Arbeitsordner ordner;
+    const auto ende = programm_ausfuehren(skript(ordner, "sleep 100 & echo $! >&2; wait"), {}, ordner.host(), 1);
+    EXPECT_TRUE(ende.zeit_abgelaufen);
+    const long enkel = std::atol(ende.fehlerausgabe.c_str());
+    for (int i = 0; i < 100 && prozess_lebt(enkel); ++i) ::usleep(20000);
+    // A grandchild that nobody has collected yet counts as alive by its number alone.
+    const std::string zustand = hilfen::lesen("/proc/" + std::to_string(enkel) + "/stat");
+    EXPECT_TRUE(zustand.empty() || zustand.find(") Z ") != std::string::npos) << zustand;
+}
+
+TEST(Prozess, EinKindDasRohreOffenLaesstHaeltNichtAuf)
+{
+    const hilfen::Arbeitsordner ordner;
+    const auto beginn = std::chrono::steady_clock::now();
+    const auto ende = programm_ausfuehren(skript(ordner, "sleep 30 & exit 3"), {}, ordner.host(), 20);
+    EXPECT_EQ(ende.status, 3);
+    EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(15));
+}
+
+}  // namespace jorv

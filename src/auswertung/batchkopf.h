@@ -1,0 +1,33 @@
+// The lines that all generators share: the head of every batch and the blocks of its tail.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "auswertung/batchtext.h"
+#include "modell/Global.h"
+
+namespace jorv {
+
+inline constexpr std::string_view titel_rover = "WaSoft- Auswertung von";
+inline constexpr std::string_view titel_basislinien = "WaSoft-(Basislinien)-Auswertung von";
+
+/// The nine lines from the first "REM" to the change into the project's folder.
+void batchkopf(const Global& g, Batchtext& batch, std::string_view titel);
+
+inline constexpr std::array<Batchzeile, 5> block_fehlerliste = {
+    {{"REM"}, {"REM ============"}, {"REM Fehlerliste:"}, {"REM ============"}, {"REM"}}};
+
+inline constexpr std::array<Batchzeile, 5> block_kopieren = {{{"REM"},
+                                                              {"REM ============================================="},
+                                                              {"REM Kopieren der Dateien und Erzeugung der Listen"},
+                                                              {"REM ============================================="},
+                                                              {"REM"}}};
+
+inline constexpr std::array<Batchzeile, 5> block_ende = {{{"REM"}, {"REM ===="}, {"REM Ende"}, {"REM ===="}, {"REM"}}};
+
+/// The line that a missing virtual station leads to.
+inline constexpr std::string_view echo_ohne_virtuelle_station =
+    "echo Fehler: Es konnte keine virtuelle Station erzeugt werden! Abbruch der Auswertung!";
+
+}  // namespace jorv

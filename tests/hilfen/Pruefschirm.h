@@ -1,7 +1,9 @@
 // The double of the port: records every message word for word, answers questions and dialogs from queues.
 #pragma once
 
+#include <cstdlib>
 #include <deque>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -9,6 +11,7 @@
 
 #include "plattform/oberflaeche.h"
 #include "plattform/text.h"
+#include "plattform/umgebung.h"
 
 namespace jorv::hilfen {
 
@@ -21,6 +24,20 @@ struct Gezeigtes {
 
 class Pruefschirm final : public Oberflaeche {
 public:
+    Pruefschirm() = default;
+    Pruefschirm(const Pruefschirm&) = delete;
+    Pruefschirm& operator=(const Pruefschirm&) = delete;
+    /// With JORV_MELDUNGEN set, what was shown is kept there for the closing check that every message text has been
+    /// shown once.
+    ~Pruefschirm() override
+    {
+        const char* ordner = std::getenv("JORV_MELDUNGEN");
+        if (!ordner || gezeigt.empty()) return;
+        std::ofstream datei(std::string(ordner) + "/" + std::to_string(prozess_kennung()),
+                            std::ios::app | std::ios::binary);
+        for (const auto& g : gezeigt) datei << g.text << '\n';
+    }
+
     using Oberflaeche::frage;
     using Oberflaeche::meldung;
     void meldung(Symbol symbol, std::string_view text, std::string_view titel) override

@@ -169,6 +169,25 @@ TEST(Format, NavigationsdateiSpalten)
     EXPECT_GT(saetze, 20u);
 }
 
+TEST(Format, GlonassNavigationInUtc)
+{
+    const auto z = zeilen(text_von(alles_an(), 'g'));
+    EXPECT_EQ(z[0].substr(0, 40), "     2.11           GLONASS NAV DATA    ");
+    EXPECT_EQ(inhalt(z, "LEAP SECONDS").substr(0, 6), "    17");
+    auto i =
+        std::find_if(z.begin(), z.end(), [](const std::string& zeile) { return zeile.ends_with("END OF HEADER"); });
+    ASSERT_NE(i, z.end());
+    for (++i; i != z.end(); i += 4) {
+        ASSERT_GE(z.end() - i, 4);
+        EXPECT_THAT(spalte(*i, 16, 2), testing::AnyOf(15, 45));
+        EXPECT_EQ(i->substr(17, 5), "  0.0");
+        const double sekunden = 3 * 86400 + 3600 * spalte(*i, 13, 2) + 60 * spalte(*i, 16, 2);
+        EXPECT_EQ(spalte(*i, 61, 19), sekunden) << "a Wednesday";
+        EXPECT_EQ(spalte(i[1], 61, 19), 0) << "healthy";
+        EXPECT_LE(std::abs(spalte(i[2], 61, 19)), 7) << "frequency number";
+    }
+}
+
 TEST(Format, AntennendateiSpalten)
 {
     Szenario s;

@@ -1,0 +1,273 @@
+#include "suite/rinex_beobachtung.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "plattform/text.h"
+#include "suite/spalten.h"
+
+namespace jorv::suite {
+
+namespace {
+
+constexpr std::size_t SATELLITEN_JE_ZEILE = 12;
+constexpr std::size_t WERTE_JE_ZEILE = 5;
+constexpr int HOECHSTENS_SATELLITEN = 999;
+
+struct Epochenzeile {
+    GpsZeit zeit;
+    bool zeit_da = false;
+    int kennung = 0;
+    int anzahl = 0;  // satellites, or lines of an event
+};
+
+class Leser {
+public:
+    Leser(std::string_view text, Umfang umfang) : m_rest(text), m_umfang(umfang) {}
+
+    bool kopf(std::string& grund);
+    void daten();
+    RinexBeobachtung ergebnis() { return std::move(m_ziel); }
+
+private:
+    bool zeile(std::string_view& ziel);
+    void kopfzeile(std::string_view z);
+    void arten_lesen(std::string_view z);
+    std::optional<Epochenzeile> epochenzeile(std::string_view z) const;
+    bool ereignis(const Epochenzeile& e);
+    bool epoche(std::string_view z, const Epochenzeile& e);
+    bool satelliten_lesen(std::string_view z, int anzahl);
+    bool messung_lesen(Messung& ziel, bool behalten);
+    void wert_lesen(std::string_view z, std::size_t platz, std::size_t art, Messung& ziel) const;
+    void hinweise_sammeln();
+
+    std::string_view m_rest;
+    Umfang m_umfang;
+    RinexBeobachtung m_ziel;
+    std::vector<int> m_spalten;  // place of each column's kind in ARTNAMEN, -1 for other kinds
+    std::size_t m_arten_angesagt = 0;
+    std::vector<int> m_satelliten;  // of the present epoch: GPS number, 0 for other systems
+    char m_leeres_system = 'G';
+    int m_unlesbar = 0, m_rueckwaerts = 0;
+    bool m_abgebrochen = false;
+};
+
+bool Leser::zeile(std::string_view& ziel)
+{
+    if (m_rest.empty()) return false;
+    const auto ende = m_rest.find('\n');
+    ziel = m_rest.substr(0, ende);
+    m_rest = ende == std::string_view::npos ? std::string_view{} : m_rest.substr(ende + 1);
+    if (!ziel.empty() && ziel.back() == '\r') ziel.remove_suffix(1);
+    return true;
+}
+
+bool Leser::kopf(std::string& grund)
+{
+    std::string_view z;
+    if (!zeile(z) || spalten(z, 60, 20) != "RINEX VERSION / TYPE") {
+        grund = "ist keine RINEX-Datei";
+        return false;
+    }
+    const auto version = spaltenzahl(spalten(z, 0, 9));
+    const std::string_view art = spalten(z, 20, 20), system = spalten(z, 40, 20);
+    if (!version || *version < 1 || *version >= 3 || art.empty() || (art.front() != 'O' && art.front() != 'o')) {
+        grund = "ist keine RINEX-2-Beobachtungsdatei";
+        return false;
+    }
+    if (!system.empty() && system.front() != 'M') m_leeres_system = system.front();
+    while (zeile(z)) {
+        if (spalten(z, 60, 20) == "END OF HEADER") {
+            if (!m_spalten.empty()) return true;
+            grund = "nennt keine Beobachtungsarten";
+            return false;
+        }
+        kopfzeile(z);
+    }
+    grund = "hat kein Ende des Kopfes";
+    return false;
+}
+
+void Leser::kopfzeile(std::string_view z)
+{
+    RinexKopf& k = m_ziel.kopf;
+    const std::string_view name = spalten(z, 60, 20);
+    const auto drei = [&](double& a, double& b, double& c) {
+        a = spaltenzahl(spalten(z, 0, 14)).value_or(0.0);
+        b = spaltenzahl(spalten(z, 14, 14)).value_or(0.0);
+        c = spaltenzahl(spalten(z, 28, 14)).value_or(0.0);
+    };
+    if (name == "MARKER NAME") k.marke = spalten(z, 0, 60);
+    if (name == "REC # / TYPE / VERS") k.empfaenger = z.substr(0, 60);
+    if (name == "ANT # / TYPE") {
+        k.antennennummer = spalten(z, 0, 20);
+        k.antennentyp = spalten(z, 20, 20);
+    }
+    if (name == "APPROX POSITION XYZ") drei(k.ort.x, k.ort.y, k.ort.z);
+    if (name == "ANTENNA: DELTA H/E/N") drei(k.antennenhoehe, k.antenne_ost, k.antenne_nord);
+    if (name == "WAVELENGTH FACT L1/2" && spalten(z, 12, 6).empty()) k.wellenlaengen = z.substr(0, 60);
+    if (name == "COMMENT" && z.substr(0, 9) == "VIRTUELLE") k.kommentar_virtuell = spalten(z, 0, 60);
+    if (name == "# / TYPES OF OBSERV") arten_lesen(z);
+}
+
+void Leser::arten_lesen(std::string_view z)
+{
+    if (const auto anzahl = spaltenganz(spalten(z, 0, 6)); anzahl && *anzahl > 0) {
+        m_arten_angesagt = static_cast<std::size_t>(*anzahl);
+        m_spalten.clear();
+    }
+    for (std::size_t i = 0; i < 9 && m_spalten.size() < m_arten_angesagt; ++i) {
+        const auto name = std::find(ARTNAMEN.begin(), ARTNAMEN.end(), spalten(z, 6 + 6 * i, 6));
+        const bool bekannt = name != ARTNAMEN.end();
+        m_spalten.push_back(bekannt ? static_cast<int>(name - ARTNAMEN.begin()) : -1);
+        if (bekannt) m_ziel.kopf.arten[static_cast<std::size_t>(m_spalten.back())] = true;
+    }
+}
+
+// Strict, because after a damaged epoch the next good one is found by it.
+std::optional<Epochenzeile> Leser::epochenzeile(std::string_view z) const
+{
+    const auto kennung = spaltenganz(spalten(z, 26, 3));
+    const auto anzahl = spaltenganz(spalten(z, 29, 3));
+    if (!kennung || *kennung < 0 || *kennung > 6 || !anzahl || *anzahl < 0 || *anzahl > HOECHSTENS_SATELLITEN) return {};
+    Epochenzeile e{{}, false, *kennung, *anzahl};
+    if (spalten(z, 0, 26).empty()) return e.kennung > 1 ? std::optional(e) : std::nullopt;
+    std::array<int, 5> feld{};
+    for (std::size_t i = 0; i < feld.size(); ++i) {
+        const auto zahl = z[3 * i] == ' ' ? spaltenganz(spalten(z, 3 * i + 1, 2)) : std::nullopt;
+        if (!zahl) return {};
+        feld[i] = *zahl;
+    }
+    const auto sekunde = spaltenzahl(spalten(z, 15, 11));
+    if (!sekunde) return {};
+    const auto zeit = gps_zeit({volles_jahr(feld[0]), feld[1], feld[2], feld[3], feld[4], *sekunde});
+    if (!zeit) return {};
+    e.zeit = *zeit;
+    e.zeit_da = true;
+    return e;
+}
+
+void Leser::daten()
+{
+    std::string_view z;
+    while (!m_abgebrochen && zeile(z)) {
+        const auto e = epochenzeile(z);
+        if (!e) {
+            m_unlesbar += spalten(z, 0, z.size()).empty() ? 0 : 1;
+            continue;
+        }
+        const std::string_view vorher = m_rest;
+        const bool gut = e->kennung <= 1 || e->kennung == 6 ? epoche(z, *e) : ereignis(*e);
+        if (gut) continue;
+        ++m_unlesbar;
+        m_rest = vorher;
+    }
+    hinweise_sammeln();
+}
+
+bool Leser::ereignis(const Epochenzeile& e)
+{
+    if ((e.kennung == 2 || e.kennung == 3) && !m_ziel.epochen.empty()) {
+        m_ziel.hinweise.emplace_back(u8"Die Antenne wird bewegt oder wechselt den Standort: der Rest bleibt unbenutzt."_w);
+        m_abgebrochen = true;
+        return true;
+    }
+    std::string_view z;
+    for (int i = 0; i < e.anzahl && zeile(z); ++i) {
+        // Only what the columns of the data depend on is taken from a header inside the data.
+        if (spalten(z, 60, 20) == "# / TYPES OF OBSERV") arten_lesen(z);
+    }
+    return true;
+}
+
+bool Leser::satelliten_lesen(std::string_view z, int anzahl)
+{
+    m_satelliten.clear();
+    for (std::size_t i = 0; i < static_cast<std::size_t>(anzahl); ++i) {
+        const std::size_t platz = i % SATELLITEN_JE_ZEILE;
+        if (i > 0 && platz == 0 && (!zeile(z) || !spalten(z, 0, 32).empty())) return false;
+        const std::size_t spalte = 32 + 3 * platz;
+        if (z.size() < spalte + 3) return false;
+        const char system = z[spalte] == ' ' ? m_leeres_system : z[spalte];
+        const auto nummer = spaltenganz(spalten(z, spalte + 1, 2));
+        if (!nummer || *nummer < 0) return false;
+        m_satelliten.push_back(system == 'G' ? *nummer : 0);
+    }
+    return true;
+}
+
+void Leser::wert_lesen(std::string_view z, std::size_t platz, std::size_t art, Messung& ziel) const
+{
+    const std::size_t spalte = 16 * platz;
+    if (z.size() <= spalte) return;
+    const auto wert = spaltenzahl(spalten(z, spalte, 14));
+    if (!wert || *wert == 0.0) return;
+    ziel.wert[art] = *wert;
+    if (z.size() > spalte + 14) ziel.schlupf[art] = z[spalte + 14];
+    if (z.size() > spalte + 15) ziel.staerke[art] = z[spalte + 15];
+}
+
+bool Leser::messung_lesen(Messung& ziel, bool behalten)
+{
+    std::string_view z;
+    for (std::size_t i = 0; i < m_spalten.size(); ++i) {
+        const std::size_t platz = i % WERTE_JE_ZEILE;
+        if (platz == 0 && !zeile(z)) return false;
+        if (behalten && m_spalten[i] >= 0) wert_lesen(z, platz, static_cast<std::size_t>(m_spalten[i]), ziel);
+    }
+    return true;
+}
+
+bool Leser::epoche(std::string_view z, const Epochenzeile& e)
+{
+    if (!satelliten_lesen(z, e.anzahl)) return false;
+    const std::size_t erste = m_ziel.messungen.size();
+    const bool doppelt = !m_ziel.epochen.empty() && e.zeit <= m_ziel.epochen.back().zeit;
+    const bool benutzt = e.kennung <= 1 && !doppelt;
+    for (const int satellit : m_satelliten) {
+        Messung messung;
+        messung.satellit = satellit;
+        messung.schlupf.fill(' ');
+        messung.staerke.fill(' ');
+        const bool behalten = benutzt && satellit > 0 && m_umfang == Umfang::alles;
+        if (!messung_lesen(messung, behalten)) {
+            m_ziel.messungen.resize(erste);
+            return false;
+        }
+        if (behalten) m_ziel.messungen.push_back(messung);
+    }
+    if (e.kennung <= 1 && doppelt) ++m_rueckwaerts;
+    if (!benutzt || m_satelliten.empty()) return true;
+    m_ziel.epochen.push_back(
+        {e.zeit, e.kennung, erste, m_ziel.messungen.size() - erste, std::string(spalten(z, 68, 12))});
+    return true;
+}
+
+void Leser::hinweise_sammeln()
+{
+    if (m_unlesbar > 0) m_ziel.hinweise.push_back(verkettet(m_unlesbar, u8" unlesbare Zeilen übergangen."_w));
+    if (m_rueckwaerts > 0)
+        m_ziel.hinweise.push_back(verkettet(m_rueckwaerts, u8" Epochen mit rückwärts laufender Zeit übergangen."_w));
+}
+
+}  // namespace
+
+double RinexBeobachtung::intervall() const
+{
+    if (epochen.size() < 2) return 0.0;
+    std::vector<double> abstaende;
+    for (std::size_t i = 1; i < epochen.size(); ++i) abstaende.push_back(abstand(epochen[i].zeit, epochen[i - 1].zeit));
+    const auto mitte = abstaende.begin() + static_cast<std::ptrdiff_t>(abstaende.size() / 2);
+    std::nth_element(abstaende.begin(), mitte, abstaende.end());
+    return std::round(*mitte * 1000.0) / 1000.0;
+}
+
+std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund)
+{
+    Leser leser(text, umfang);
+    if (!leser.kopf(grund)) return {};
+    if (umfang != Umfang::kopf) leser.daten();
+    return leser.ergebnis();
+}
+
+}  // namespace jorv::suite

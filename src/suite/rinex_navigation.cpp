@@ -1,0 +1,140 @@
+#include "suite/rinex_navigation.h"
+
+#include <algorithm>
+#include <numeric>
+#include <optional>
+
+#include "plattform/text.h"
+#include "suite/spalten.h"
+
+namespace jorv::suite {
+
+namespace {
+
+constexpr std::size_t ZEILEN_JE_SATZ = 8;
+
+struct Satzfeld {
+    double Ephemeride::* ziel;
+    std::size_t zeile, spalte;  // spalte counts the four numbers of a line
+};
+
+constexpr std::array<Satzfeld, 20> FELDER = {{{&Ephemeride::af0, 0, 1},
+                                              {&Ephemeride::af1, 0, 2},
+                                              {&Ephemeride::af2, 0, 3},
+                                              {&Ephemeride::iode, 1, 0},
+                                              {&Ephemeride::crs, 1, 1},
+                                              {&Ephemeride::delta_n, 1, 2},
+                                              {&Ephemeride::m0, 1, 3},
+                                              {&Ephemeride::cuc, 2, 0},
+                                              {&Ephemeride::e, 2, 1},
+                                              {&Ephemeride::cus, 2, 2},
+                                              {&Ephemeride::wurzel_a, 2, 3},
+                                              {&Ephemeride::cic, 3, 1},
+                                              {&Ephemeride::omega0, 3, 2},
+                                              {&Ephemeride::cis, 3, 3},
+                                              {&Ephemeride::i0, 4, 0},
+                                              {&Ephemeride::crc, 4, 1},
+                                              {&Ephemeride::omega, 4, 2},
+                                              {&Ephemeride::omega_punkt, 4, 3},
+                                              {&Ephemeride::i_punkt, 5, 0},
+                                              {&Ephemeride::gesundheit, 6, 1}}};
+
+using Satzzeilen = std::array<std::string_view, ZEILEN_JE_SATZ>;
+
+std::optional<double> satzzahl(const Satzzeilen& zeilen, std::size_t zeile, std::size_t spalte)
+{
+    return spaltenzahl(spalten(zeilen[zeile], 3 + 19 * spalte, 19));
+}
+
+std::optional<Ephemeride> satz_lesen(const Satzzeilen& zeilen)
+{
+    Ephemeride eph;
+    const auto satellit = spaltenganz(spalten(zeilen[0], 0, 2));
+    std::array<int, 5> datum{};
+    for (std::size_t i = 0; i < datum.size(); ++i) {
+        const auto zahl = spaltenganz(spalten(zeilen[0], 3 + 3 * i, 2));
+        if (!zahl) return {};
+        datum[i] = *zahl;
+    }
+    const auto sekunde = spaltenzahl(spalten(zeilen[0], 17, 5));
+    const auto toe = satzzahl(zeilen, 3, 0);
+    if (!satellit || *satellit < 1 || *satellit > 99 || !sekunde || !toe) return {};
+    const auto toc = gps_zeit({volles_jahr(datum[0]), datum[1], datum[2], datum[3], datum[4], *sekunde});
+    if (!toc) return {};
+    for (const Satzfeld& feld : FELDER) {
+        const auto zahl = satzzahl(zeilen, feld.zeile, feld.spalte);
+        if (!zahl) return {};
+        eph.*feld.ziel = *zahl;
+    }
+    if (eph.wurzel_a < 1000 || eph.e < 0 || eph.e >= 0.5) return {};
+    eph.satellit = *satellit;
+    eph.toc = *toc;
+    // The week number of old files has rolled over or names the week of transmission: the set's own clock time decides.
+    eph.toe = gps_zeit(woche(*toc), *toe);
+    if (abstand(eph.toe, *toc) > 302400) eph.toe = verschoben(eph.toe, -604800);
+    if (abstand(eph.toe, *toc) < -302400) eph.toe = verschoben(eph.toe, 604800);
+    return eph;
+}
+
+bool schon_da(const Navigation& navigation, const Ephemeride& eph)
+{
+    return std::any_of(navigation.saetze.begin(), navigation.saetze.end(), [&](const Ephemeride& alt) {
+        return alt.satellit == eph.satellit && alt.toe == eph.toe && alt.toc == eph.toc && alt.iode == eph.iode;
+    });
+}
+
+bool ist_gps_navigation(std::string_view zeile)
+{
+    const std::string_view art = spalten(zeile, 20, 20);
+    const auto version = spaltenzahl(spalten(zeile, 0, 9));
+    return version && *version >= 1 && *version < 3 && !art.empty() && (art.front() == 'N' || art.front() == 'n');
+}
+
+}  // namespace
+
+int navigation_lesen(std::string_view text, Navigation& ziel)
+{
+    Zeilenleser leser(text);
+    auto zeile = leser.naechste();
+    if (!zeile || !ist_gps_navigation(*zeile)) return -1;
+    std::vector<std::string> kopf;
+    for (; zeile && spalten(*zeile, 60, 20) != "END OF HEADER"; zeile = leser.naechste()) kopf.emplace_back(*zeile);
+    if (!zeile) return -1;
+    if (ziel.kopf.empty()) ziel.kopf = std::move(kopf);
+    int gelesen = 0;
+    Satzzeilen zeilen;
+    std::size_t anzahl = 0;
+    while ((zeile = leser.naechste())) {
+        // The first line of a set alone has its satellite in front: a broken set never shifts the ones behind it.
+        if (!spalten(*zeile, 0, 2).empty()) anzahl = 0;
+        if (anzahl < ZEILEN_JE_SATZ) zeilen[anzahl] = *zeile;
+        if (++anzahl != ZEILEN_JE_SATZ) continue;
+        const auto eph = satz_lesen(zeilen);
+        if (!eph) continue;
+        ++gelesen;
+        if (schon_da(ziel, *eph)) continue;
+        ziel.saetze.push_back(*eph);
+        std::string satz;
+        for (const std::string_view z : zeilen) satz.append(z).append("\r\n");
+        ziel.zeilen.push_back(std::move(satz));
+    }
+    return gelesen;
+}
+
+std::string navigation_text(const Navigation& navigation)
+{
+    std::string text;
+    for (const std::string& zeile : navigation.kopf) text.append(zeile).append("\r\n");
+    anhaengen_links(text, "", 60);
+    text.append("END OF HEADER\r\n");
+    std::vector<std::size_t> folge(navigation.saetze.size());
+    std::iota(folge.begin(), folge.end(), std::size_t{0});
+    std::stable_sort(folge.begin(), folge.end(), [&](std::size_t a, std::size_t b) {
+        const Ephemeride &x = navigation.saetze[a], &y = navigation.saetze[b];
+        return x.toc != y.toc ? x.toc < y.toc : x.satellit < y.satellit;
+    });
+    for (const std::size_t i : folge) text.append(navigation.zeilen[i]);
+    return text;
+}
+
+}  // namespace jorv::suite

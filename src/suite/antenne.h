@@ -1,6 +1,6 @@
 #pragma once
-// Antenna calibrations: finds the block of a receiver antenna in the project's ANTEX file, by the serial number first, and
-// writes the small file of two blocks that the solver gets.
+// Antenna calibrations: finds the block of a receiver antenna in the project's ANTEX file, by the serial number first,
+// and writes the small file of two blocks that the solver gets.
 
 #include <optional>
 #include <string>
@@ -21,8 +21,8 @@ struct Antennenblock {
 
 /// The block for an antenna of that number and type (columns 1-20 and 21-40 of ANT # / TYPE, trimmed): the same serial
 /// number (type equal preferred), else the mean calibration of the type, else that of the type without a dome (a header
-/// without dome means none), else the calibration of another piece of the type. Blocks outside their dates are passed over.
-/// Nothing when there is none.
+/// without dome means none), else the calibration of another piece of the type. Blocks outside their dates are passed
+/// over. Nothing when there is none.
 std::optional<Antennenblock> antenne_suchen(std::string_view antex, std::string_view nummer, std::string_view typ,
                                             const GpsZeit& zeit);
 

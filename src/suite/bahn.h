@@ -12,14 +12,14 @@ inline constexpr double ERDDREHUNG = 7.2921151467e-5;  // rad/s, the value that 
 
 /// One broadcast set; names as in the interface specification, angles in radians, lengths in metres.
 struct Ephemeride {
-  int satellit = 0;
-  GpsZeit toc, toe;
-  double af0 = 0, af1 = 0, af2 = 0;
-  double iode = 0, crs = 0, delta_n = 0, m0 = 0;
-  double cuc = 0, e = 0, cus = 0, wurzel_a = 0;
-  double cic = 0, omega0 = 0, cis = 0;
-  double i0 = 0, crc = 0, omega = 0, omega_punkt = 0, i_punkt = 0;
-  double gesundheit = 0;  // 0: all signals usable
+    int satellit = 0;
+    GpsZeit toc, toe;
+    double af0 = 0, af1 = 0, af2 = 0;
+    double iode = 0, crs = 0, delta_n = 0, m0 = 0;
+    double cuc = 0, e = 0, cus = 0, wurzel_a = 0;
+    double cic = 0, omega0 = 0, cis = 0;
+    double i0 = 0, crc = 0, omega = 0, omega_punkt = 0, i_punkt = 0;
+    double gesundheit = 0;  // 0: all signals usable
 };
 
 /// Satellite position at `zeit` (GPS) in the earth-fixed frame of that instant.

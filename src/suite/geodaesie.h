@@ -8,41 +8,44 @@
 
 namespace jorv::suite {
 
-inline constexpr double LICHT = 299792458.0;         // m/s
-inline constexpr double FREQUENZ1 = 1575.42e6;       // Hz, L1
-inline constexpr double FREQUENZ2 = 1227.60e6;       // Hz, L2
+inline constexpr double LICHT = 299792458.0;    // m/s
+inline constexpr double FREQUENZ1 = 1575.42e6;  // Hz, L1
+inline constexpr double FREQUENZ2 = 1227.60e6;  // Hz, L2
 inline constexpr double GRAD = std::numbers::pi / 180.0;
 
 /// Geocentric coordinates or a difference of them, metres.
 struct Xyz {
-  double x = 0.0, y = 0.0, z = 0.0;
-  friend Xyz operator-(const Xyz& a, const Xyz& b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
-  friend Xyz operator+(const Xyz& a, const Xyz& b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
-  bool operator==(const Xyz&) const = default;
+    double x = 0.0, y = 0.0, z = 0.0;
+    friend Xyz operator-(const Xyz& a, const Xyz& b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
+    friend Xyz operator+(const Xyz& a, const Xyz& b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
+    bool operator==(const Xyz&) const = default;
 };
 
-inline double laenge(const Xyz& v) { return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z); }
+inline double laenge(const Xyz& v)
+{
+    return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z);
+}
 
 /// Latitude and longitude in radians, ellipsoidal height in metres.
 struct Geographisch {
-  double breite = 0.0, laenge = 0.0, hoehe = 0.0;
+    double breite = 0.0, laenge = 0.0, hoehe = 0.0;
 };
 
 /// East, north, up in metres.
 struct Enu {
-  double e = 0.0, n = 0.0, u = 0.0;
+    double e = 0.0, n = 0.0, u = 0.0;
 };
 
 struct Utm {
-  double rechtswert = 0.0, hochwert = 0.0;
+    double rechtswert = 0.0, hochwert = 0.0;
 };
 
 /// A point with what is wanted of it at every observation.
 struct Ort {
-  explicit Ort(const Xyz& lage);
-  Xyz xyz;
-  Geographisch blh;
-  std::array<std::array<double, 3>, 3> horizont;  // rows east, north, up
+    explicit Ort(const Xyz& lage);
+    Xyz xyz;
+    Geographisch blh;
+    std::array<std::array<double, 3>, 3> horizont;  // rows east, north, up
 };
 
 /// Geographic coordinates by Bowring's formula, good to 0.1 micrometres up to 20 km of height.

@@ -9,30 +9,33 @@
 namespace jorv::suite {
 
 struct GpsZeit {
-  std::int64_t sekunde = 0;  // since 6.1.1980 00:00:00 GPS
-  double bruch = 0.0;        // 0 <= bruch < 1
-  auto operator<=>(const GpsZeit&) const = default;
+    std::int64_t sekunde = 0;  // since 6.1.1980 00:00:00 GPS
+    double bruch = 0.0;        // 0 <= bruch < 1
+    auto operator<=>(const GpsZeit&) const = default;
 };
 
 struct Kalenderzeit {
-  int jahr = 0, monat = 0, tag = 0, stunde = 0, minute = 0;
-  double sekunde = 0.0;
+    int jahr = 0, monat = 0, tag = 0, stunde = 0, minute = 0;
+    double sekunde = 0.0;
 };
 
 /// a - b in seconds.
-inline double abstand(const GpsZeit& a, const GpsZeit& b) {
-  return static_cast<double>(a.sekunde - b.sekunde) + (a.bruch - b.bruch);
+inline double abstand(const GpsZeit& a, const GpsZeit& b)
+{
+    return static_cast<double>(a.sekunde - b.sekunde) + (a.bruch - b.bruch);
 }
 
 /// The instant `sekunden` after `zeit` (negative: before).
-inline GpsZeit verschoben(const GpsZeit& zeit, double sekunden) {
-  const double ganz = std::floor(sekunden + zeit.bruch);
-  return {zeit.sekunde + static_cast<std::int64_t>(ganz), sekunden + zeit.bruch - ganz};
+inline GpsZeit verschoben(const GpsZeit& zeit, double sekunden)
+{
+    const double ganz = std::floor(sekunden + zeit.bruch);
+    return {zeit.sekunde + static_cast<std::int64_t>(ganz), sekunden + zeit.bruch - ganz};
 }
 
 /// Full year of a two-digit one (80-99 and 00-79), other years unchanged.
-inline int volles_jahr(int jahr) {
-  return jahr < 0 || jahr > 99 ? jahr : jahr + (jahr >= 80 ? 1900 : 2000);
+inline int volles_jahr(int jahr)
+{
+    return jahr < 0 || jahr > 99 ? jahr : jahr + (jahr >= 80 ? 1900 : 2000);
 }
 
 /// GPS time of a civil date; a second of 60 (and a fraction that rounds up) is taken as the next minute.
@@ -47,7 +50,13 @@ Kalenderzeit kalenderzeit(const GpsZeit& zeit);
 /// Day of the year, 1 to 366, and the two digits of the year as RINEX file names carry them.
 int tag_im_jahr(const GpsZeit& zeit);
 
-inline int woche(const GpsZeit& zeit) { return static_cast<int>(zeit.sekunde / 604800); }
-inline int wochentag(const GpsZeit& zeit) { return static_cast<int>(zeit.sekunde % 604800 / 86400); }
+inline int woche(const GpsZeit& zeit)
+{
+    return static_cast<int>(zeit.sekunde / 604800);
+}
+inline int wochentag(const GpsZeit& zeit)
+{
+    return static_cast<int>(zeit.sekunde % 604800 / 86400);
+}
 
 }  // namespace jorv::suite

@@ -129,7 +129,8 @@ std::optional<Epochenzeile> Leser::epochenzeile(std::string_view z) const
 {
     const auto kennung = spaltenganz(spalten(z, 26, 3));
     const auto anzahl = spaltenganz(spalten(z, 29, 3));
-    if (!kennung || *kennung < 0 || *kennung > 6 || !anzahl || *anzahl < 0 || *anzahl > HOECHSTENS_SATELLITEN) return {};
+    if (!kennung || *kennung < 0 || *kennung > 6 || !anzahl || *anzahl < 0 || *anzahl > HOECHSTENS_SATELLITEN)
+        return {};
     Epochenzeile e{{}, false, *kennung, *anzahl};
     if (spalten(z, 0, 26).empty()) return e.kennung > 1 ? std::optional(e) : std::nullopt;
     std::array<int, 5> feld{};
@@ -168,7 +169,8 @@ void Leser::daten()
 bool Leser::ereignis(const Epochenzeile& e)
 {
     if ((e.kennung == 2 || e.kennung == 3) && !m_ziel.epochen.empty()) {
-        m_ziel.hinweise.emplace_back(u8"Die Antenne wird bewegt oder wechselt den Standort: der Rest bleibt unbenutzt."_w);
+        m_ziel.hinweise.emplace_back(
+            u8"Die Antenne wird bewegt oder wechselt den Standort: der Rest bleibt unbenutzt."_w);
         m_abgebrochen = true;
         return true;
     }

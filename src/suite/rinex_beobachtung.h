@@ -24,29 +24,29 @@ inline constexpr std::array<std::string_view, ARTEN> ARTNAMEN = {"C1", "P1", "C2
 struct Messung {
     int satellit = 0;
     std::array<double, ARTEN> wert{};
-    std::array<char, ARTEN> schlupf{};   // loss-of-lock digit or blank
-    std::array<char, ARTEN> staerke{};   // signal strength digit or blank
+    std::array<char, ARTEN> schlupf{};  // loss-of-lock digit or blank
+    std::array<char, ARTEN> staerke{};  // signal strength digit or blank
     double operator[](Art art) const { return wert[static_cast<std::size_t>(art)]; }
 };
 
 struct Epoche {
     GpsZeit zeit;
-    int kennung = 0;              // 0 good, 1 power failure before it
-    std::size_t erste = 0;        // its observations in `messungen`
+    int kennung = 0;        // 0 good, 1 power failure before it
+    std::size_t erste = 0;  // its observations in `messungen`
     std::size_t anzahl = 0;
-    std::string uhr;              // receiver clock field as it stands, mostly empty
+    std::string uhr;  // receiver clock field as it stands, mostly empty
 };
 
 struct RinexKopf {
-    std::string marke;                // MARKER NAME
-    std::string empfaenger;           // REC # / TYPE / VERS, the line's 60 columns
-    std::string antennennummer;       // columns 1-20 of ANT # / TYPE
-    std::string antennentyp;          // columns 21-40
-    Xyz ort;                          // APPROX POSITION XYZ, zero when missing
+    std::string marke;                                                  // MARKER NAME
+    std::string empfaenger;                                             // REC # / TYPE / VERS, the line's 60 columns
+    std::string antennennummer;                                         // columns 1-20 of ANT # / TYPE
+    std::string antennentyp;                                            // columns 21-40
+    Xyz ort;                                                            // APPROX POSITION XYZ, zero when missing
     double antennenhoehe = 0.0, antenne_ost = 0.0, antenne_nord = 0.0;  // metres
-    std::array<bool, ARTEN> arten{};  // kinds that the header announces
-    std::string wellenlaengen;        // WAVELENGTH FACT L1/2, the line's 60 columns
-    std::string kommentar_virtuell;   // the comment by which a virtual station names its master, see virtuelle_station
+    std::array<bool, ARTEN> arten{};                                    // kinds that the header announces
+    std::string wellenlaengen;                                          // WAVELENGTH FACT L1/2, the line's 60 columns
+    std::string kommentar_virtuell;  // the comment by which a virtual station names its master, see virtuelle_station
 };
 
 /// How much of the data is wanted: the times alone take a fraction of the time of all values.
@@ -54,8 +54,8 @@ enum class Umfang { kopf, epochen, alles };
 
 struct RinexBeobachtung {
     RinexKopf kopf;
-    std::vector<Epoche> epochen;      // strictly ascending
-    std::vector<Messung> messungen;   // GPS alone, empty unless Umfang::alles
+    std::vector<Epoche> epochen;     // strictly ascending
+    std::vector<Messung> messungen;  // GPS alone, empty unless Umfang::alles
     std::vector<std::string> hinweise;
 
     /// The usual distance of two epochs in seconds (median, to the millisecond); 0 with fewer than two.

@@ -14,30 +14,18 @@ namespace {
 constexpr std::size_t ZEILEN_JE_SATZ = 8;
 
 struct Satzfeld {
-    double Ephemeride::* ziel;
+    double Ephemeride::*ziel;
     std::size_t zeile, spalte;  // spalte counts the four numbers of a line
 };
 
-constexpr std::array<Satzfeld, 20> FELDER = {{{&Ephemeride::af0, 0, 1},
-                                              {&Ephemeride::af1, 0, 2},
-                                              {&Ephemeride::af2, 0, 3},
-                                              {&Ephemeride::iode, 1, 0},
-                                              {&Ephemeride::crs, 1, 1},
-                                              {&Ephemeride::delta_n, 1, 2},
-                                              {&Ephemeride::m0, 1, 3},
-                                              {&Ephemeride::cuc, 2, 0},
-                                              {&Ephemeride::e, 2, 1},
-                                              {&Ephemeride::cus, 2, 2},
-                                              {&Ephemeride::wurzel_a, 2, 3},
-                                              {&Ephemeride::cic, 3, 1},
-                                              {&Ephemeride::omega0, 3, 2},
-                                              {&Ephemeride::cis, 3, 3},
-                                              {&Ephemeride::i0, 4, 0},
-                                              {&Ephemeride::crc, 4, 1},
-                                              {&Ephemeride::omega, 4, 2},
-                                              {&Ephemeride::omega_punkt, 4, 3},
-                                              {&Ephemeride::i_punkt, 5, 0},
-                                              {&Ephemeride::gesundheit, 6, 1}}};
+constexpr std::array<Satzfeld, 20> FELDER = {
+    {{&Ephemeride::af0, 0, 1},     {&Ephemeride::af1, 0, 2},       {&Ephemeride::af2, 0, 3},
+     {&Ephemeride::iode, 1, 0},    {&Ephemeride::crs, 1, 1},       {&Ephemeride::delta_n, 1, 2},
+     {&Ephemeride::m0, 1, 3},      {&Ephemeride::cuc, 2, 0},       {&Ephemeride::e, 2, 1},
+     {&Ephemeride::cus, 2, 2},     {&Ephemeride::wurzel_a, 2, 3},  {&Ephemeride::cic, 3, 1},
+     {&Ephemeride::omega0, 3, 2},  {&Ephemeride::cis, 3, 3},       {&Ephemeride::i0, 4, 0},
+     {&Ephemeride::crc, 4, 1},     {&Ephemeride::omega, 4, 2},     {&Ephemeride::omega_punkt, 4, 3},
+     {&Ephemeride::i_punkt, 5, 0}, {&Ephemeride::gesundheit, 6, 1}}};
 
 using Satzzeilen = std::array<std::string_view, ZEILEN_JE_SATZ>;
 

@@ -16,9 +16,9 @@ struct Navigation {
     std::vector<std::string> kopf;    // header lines of the first file
 };
 
-/// Adds the GPS sets of a file's text. Sets that are there already (same satellite, reference time and issue) are passed
-/// over, sets that can't be read wholly too. Returns the count of sets read, or -1 when the text is no RINEX 2 GPS
-/// navigation file.
+/// Adds the GPS sets of a file's text. Sets that are there already (same satellite, reference time and issue) are
+/// passed over, sets that can't be read wholly too. Returns the count of sets read, or -1 when the text is no RINEX 2
+/// GPS navigation file.
 int navigation_lesen(std::string_view text, Navigation& ziel);
 
 /// The text of a navigation file of all sets in order of time, CR LF.

@@ -8,7 +8,8 @@
 
 namespace jorv::suite {
 
-/// The columns [ab, ab + anzahl) of a line counted from 0, as much of them as the line holds, without blanks at the ends.
+/// The columns [ab, ab + anzahl) of a line counted from 0, as much of them as the line holds, without blanks at the
+/// ends.
 std::string_view spalten(std::string_view zeile, std::size_t ab, std::size_t anzahl);
 
 /// The number that fills a field wholly (decimal point, exponent by E or D, a sign of either kind).

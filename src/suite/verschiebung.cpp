@@ -36,8 +36,8 @@ Verschiebung verschiebung(const Ephemeride& eph, const GpsZeit& zeitmarke, doubl
         if (fertig) break;
     }
 
-    const auto tag = static_cast<double>(tag_im_jahr(zeitmarke)) +
-                     static_cast<double>(zeitmarke.sekunde % 86400) / 86400.0;
+    const auto tag =
+        static_cast<double>(tag_im_jahr(zeitmarke)) + static_cast<double>(zeitmarke.sekunde % 86400) / 86400.0;
     const double hoch_von = elevation(von, gedreht(dort, dauer_von));
     const double hoch_nach = elevation(nach, satellit);
     const double luft = laufzeit(modell, nach.blh, tag, hoch_nach) - laufzeit(modell, von.blh, tag, hoch_von);

@@ -13,8 +13,8 @@ struct Verschiebung {
 };
 
 /// Shift from station `von` to `nach` for an observation with the receiver's time tag and the code in metres. The code
-/// carries the receiver's clock, so transmission and true reception come out right whatever that clock does; both places
-/// receive at the same true instant, hence from two slightly different places of the satellite.
+/// carries the receiver's clock, so transmission and true reception come out right whatever that clock does; both
+/// places receive at the same true instant, hence from two slightly different places of the satellite.
 Verschiebung verschiebung(const Ephemeride& eph, const GpsZeit& zeitmarke, double code, const Ort& von, const Ort& nach,
                           Troposphaerenmodell modell);
 

@@ -1,0 +1,42 @@
+#pragma once
+// The folder that a program of the suite works in: names found without regard to case, files read whole and written
+// whole.
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "plattform/datei.h"
+
+namespace jorv::suite {
+
+class Arbeitsordner {
+public:
+    /// The process's current directory.
+    Arbeitsordner() = default;
+    explicit Arbeitsordner(std::string dos_pfad) : m_pfad(std::move(dos_pfad)) {}
+
+    std::string pfad(std::string_view name) const;
+    std::filesystem::path host(std::string_view name) const { return m_dateien.host(pfad(name)); }
+    bool vorhanden(std::string_view name) const { return m_dateien.ist_datei(pfad(name)); }
+
+    /// Names of files that fit a pattern in which "?" stands for one character and "*" for any; sorted.
+    std::vector<std::string> suchen(std::string_view muster) const;
+
+    /// The file in memory; `fehler` tells why not.
+    Abbild lesen(std::string_view name, std::error_code& fehler) const;
+
+    [[nodiscard]] bool schreiben(std::string_view name, std::string_view bytes) const;
+    /// Removes the file; true when it is gone.
+    [[nodiscard]] bool loeschen(std::string_view name) const;
+
+private:
+    Dateisystem m_dateien;
+    std::string m_pfad;
+};
+
+/// The file name without its type: "30400920.05o" gives "30400920".
+std::string_view stamm(std::string_view dateiname);
+
+}  // namespace jorv::suite

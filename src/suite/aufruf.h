@@ -1,0 +1,53 @@
+#pragma once
+// The command lines of the suite's programs as data. Words are Windows-1252; options keep the spelling that the batches
+// use.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "suite/troposphaere.h"
+
+namespace jorv::suite {
+
+using Worte = std::vector<std::string>;
+
+/// wav2 ROVER STA1,STA2,... [+PRO] [+E] [+A<file>] [-e<degrees>] [+b<HHMMSS>] [+e<HHMMSS>]
+struct Wav2Aufruf {
+    std::string rover;
+    Worte stationen;  // file name's first four characters
+    std::string antennendatei;
+    int elevation = 10;                                      // degrees
+    std::optional<int> beginn, ende;                         // time of day as HHMMSS
+    Troposphaerenmodell modell = Troposphaerenmodell::voll;  // no option of the command line
+};
+
+/// What +TL asks for.
+enum class Loesungsart { automatisch, l1, l0 };
+
+/// wa2 BASE ROVER [+ACF<file>] [+TL<n>] [+R<s>] [-e<degrees>] [-M<min>] [-N<min>] [-SV<satellite>]... [+L1|+L2]
+/// [+U<zone>]
+/// [+E-<field>,...] [+FE<file>] [+FL<file>] [+FS<file>] [+SE]
+struct Wa2Aufruf {
+    std::string basis, rover;
+    std::string antennendatei;
+    Loesungsart art = Loesungsart::automatisch;
+    int takt = 0;  // seconds, 0: as the data
+    int elevation = 10;
+    int ohne_anfang = 0, ohne_ende = 0;  // minutes
+    Worte ohne_satelliten;               // G05
+    int zone = 32;
+    Worte felder;                 // empty: no row is wanted
+    bool nur_basislinie = false;  // +SE: the plain baseline goes to the +FS file
+    std::string ext_datei = "wa2ext.txt", protokoll_datei = "wa2log.txt", loesung_datei = "wa2sol.txt";
+};
+
+/// Reads the words behind the program's name. Nothing with a German reason in `grund` for a command line that isn't
+/// one.
+std::optional<Wav2Aufruf> wav2_aufruf(const Worte& worte, std::string& grund);
+std::optional<Wa2Aufruf> wa2_aufruf(const Worte& worte, std::string& grund);
+
+/// The satellite of a word such as "5", " 05", "G5", "R12" in three characters; nothing when it is none.
+std::optional<std::string> satellitenname(std::string_view wort);
+
+}  // namespace jorv::suite

@@ -1,0 +1,55 @@
+#pragma once
+// Whether a run's fixed solution is believed. The solver's word "fixed" for the last epoch is not safe on long
+// baselines under a disturbed ionosphere, so the whole series is judged, the more strictly the longer the real baseline
+// is.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "suite/aufruf.h"
+#include "suite/guete.h"
+#include "suite/loeser.h"
+
+namespace jorv::suite {
+
+/// Limits for a fixed run.
+struct Annahme {
+    double verhaeltnis;  // at least, of the ambiguity search
+    double anteil;       // at least, of the fixed epochs in the second half
+    double s0;           // at most
+};
+
+/// Limits of an L1 (or L1+L2) run by the real length in metres, and of an L0 run.
+Annahme annahme_l1(double laenge);
+inline constexpr Annahme ANNAHME_L0{3.0, 0.10, 2.5};
+
+inline constexpr double KURZ = 15000.0, MITTEL = 30000.0;  // metres
+
+struct Versuch {
+    Laufart art;
+    Annahme annahme;
+    std::string_view typ;  // word of the result rows
+};
+
+/// The runs to try one after the other until one is accepted.
+std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen);
+
+/// The float runs to try when none was accepted; the last is a code solution.
+std::vector<Laufart> plan_offen(double laenge, bool zwei_frequenzen);
+
+struct Urteil {
+    bool angenommen = false;
+    std::string grund;       // why not
+    std::size_t epoche = 0;  // the position that is the result
+    double anteil = 0.0;
+    std::size_t fest = 0;  // fixed epochs
+    Guetemasse masse;
+};
+
+Urteil urteilen(const Loeserausgabe& ausgabe, const Annahme& annahme);
+
+/// A float or code run: accepted when the last position is of that kind.
+Urteil urteilen_offen(const Loeserausgabe& ausgabe, Laufart art);
+
+}  // namespace jorv::suite

@@ -1,0 +1,73 @@
+#pragma once
+// Runs the solver rnx2rtkp on two observation files: a private folder with copies under plain names, an option file, no
+// shell, a time limit. The solver's exit status says nothing; whether there is a solution shows in its files alone.
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "suite/antenne.h"
+#include "suite/loeser_ausgabe.h"
+#include "suite/rinex_beobachtung.h"
+
+namespace jorv::suite {
+
+/// The solver's ways of computing that are safe to use. (Ionosphere-free with ambiguity search is not among them: it
+/// reports fixed integers of a combination that has none.)
+enum class Laufart { l1, l1_l2, l0, offen, offen_l0, offen_l1, code };
+
+/// Name of the way for the protocol.
+std::string_view laufname(Laufart art);
+
+/// What all runs of one baseline have in common.
+struct Loeserauftrag {
+    std::string rover_text, basis_text, navigation_text;  // the files
+    RinexKopf rover, basis;                               // antenna offsets, base coordinate
+    std::optional<Antennenblock> rover_antenne, basis_antenne;
+    GpsZeit von, bis;
+    double takt = 0.0;   // seconds, 0: every epoch
+    int elevation = 10;  // degrees
+    std::vector<std::string> ohne_satelliten;
+    double solverlaenge = 1.0;     // metres between the two header positions
+    bool zenit_schaetzen = false;  // troposphere parameters in the L0 runs
+};
+
+/// The option file of a run.
+std::string optionsdatei(const Loeserauftrag& auftrag, Laufart art);
+
+/// Where the solver is and how long it may take.
+struct Loeserumgebung {
+    std::filesystem::path programm;  // empty: not found
+    int sekunden = 600;
+    std::filesystem::path zwischenordner = std::filesystem::temp_directory_path();
+};
+
+struct Loeserlauf {
+    Loeserausgabe ausgabe;      // empty without a solution
+    std::string fehler;         // German reason why the run gave nothing, else empty
+    std::string fehlerausgabe;  // last lines of the solver's standard error
+};
+
+/// A private folder with the input files, for all runs of one baseline; it goes away with the object.
+class Loeser {
+public:
+    Loeser(const Loeserumgebung& umgebung, const Loeserauftrag& auftrag);
+    ~Loeser();
+    Loeser(const Loeser&) = delete;
+    Loeser& operator=(const Loeser&) = delete;
+
+    /// Empty, or the reason why there is no folder or no solver.
+    const std::string& hindernis() const { return m_hindernis; }
+    Loeserlauf rechnen(Laufart art) const;
+
+private:
+    bool ablegen(const char* name, std::string_view text) const;
+
+    const Loeserumgebung& m_umgebung;
+    const Loeserauftrag& m_auftrag;
+    std::filesystem::path m_ordner;
+    std::string m_hindernis;
+};
+
+}  // namespace jorv::suite

@@ -1,0 +1,37 @@
+#include "suite/programm.h"
+
+#include <cstdio>
+
+#include "plattform/text.h"
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
+namespace jorv::suite {
+
+std::optional<Worte> worte(int anzahl, const char* const* argumente)
+{
+    Worte liste;
+    for (int i = 1; i < anzahl; ++i) {
+#ifdef _WIN32
+        liste.emplace_back(argumente[i]);  // the system hands them over in its own 8-bit code page
+#else
+        auto wort = text_aus_utf8(argumente[i]);
+        if (!wort) return {};
+        liste.push_back(std::move(*wort));
+#endif
+    }
+    return liste;
+}
+
+void ausgeben(std::string_view bytes)
+{
+#ifdef _WIN32
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
+    std::fwrite(bytes.data(), 1, bytes.size(), stdout);
+}
+
+}  // namespace jorv::suite

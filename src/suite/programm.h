@@ -1,0 +1,20 @@
+#pragma once
+// What the mains of the suite share: the words of the command line in Windows-1252 and the output as it stands.
+
+#include <optional>
+#include <string_view>
+
+#include "suite/aufruf.h"
+
+namespace jorv::suite {
+
+/// The words behind the program's name; nothing when one can't be held in Windows-1252.
+std::optional<Worte> worte(int anzahl, const char* const* argumente);
+
+/// Bytes to standard output without any change of line ends.
+void ausgeben(std::string_view bytes);
+
+/// Exit status of a wrong command line.
+inline constexpr int FALSCHER_AUFRUF = 2;
+
+}  // namespace jorv::suite

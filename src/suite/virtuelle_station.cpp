@@ -1,0 +1,313 @@
+#include "suite/virtuelle_station.h"
+
+#include <algorithm>
+
+#include "plattform/text.h"
+#include "plattform/zahl.h"
+#include "suite/rinex_schreiben.h"
+#include "suite/spalten.h"
+#include "suite/stationen.h"
+#include "suite/verschiebung.h"
+
+namespace jorv::suite {
+
+namespace {
+
+constexpr std::string_view PROGRAMM = "wav2 1.0";
+constexpr double WEIT = 50000.0;  // metres; beyond it a displaced station rarely gives a fixed solution
+
+constexpr std::string_view HERKUNFT_ANFANG = "VIRTUELLE STATION AUS ";
+
+// A station that may become the master.
+struct Kandidat {
+    std::string station;
+    std::vector<std::string> dateien;
+    Xyz ort;
+    double strecke = 0.0;
+};
+
+struct Statistik {
+    std::size_t ohne_bahn = 0, ohne_code = 0, unter_maske = 0;
+    double groesste = 0.0, kleinste = 0.0;
+};
+
+std::string zeit_text(const GpsZeit& zeit)
+{
+    const Kalenderzeit k = kalenderzeit(zeit);
+    const Zeitpunkt z{k.jahr, k.monat, k.tag, k.stunde, k.minute, static_cast<int>(k.sekunde)};
+    return verkettet(tag_text(z), " ", uhrzeit_text(z));
+}
+
+GpsZeit tageszeit(const GpsZeit& tag, int hhmmss)
+{
+    const int sekunde = hhmmss / 10000 * 3600 + hhmmss / 100 % 100 * 60 + hhmmss % 100;
+    return {tag.sekunde / 86400 * 86400 + sekunde, 0.0};
+}
+
+double ueberdeckung(const Zeitspanne& a, const Zeitspanne& b)
+{
+    return std::min(abstand(a.bis, b.von), abstand(b.bis, a.von));
+}
+
+// The span to make: the rover's own, or the window of the call on the day on which it meets the rover's epochs.
+std::optional<Zeitspanne> spanne_von(const Wav2Aufruf& aufruf, const Zeitspanne& rover)
+{
+    if (!aufruf.beginn && !aufruf.ende) return rover;
+    const int beginn = aufruf.beginn.value_or(0), ende = aufruf.ende.value_or(235959);
+    std::optional<Zeitspanne> beste;
+    for (const double tag : {0.0, -86400.0, 86400.0}) {
+        const GpsZeit basis = verschoben(rover.von, tag);
+        Zeitspanne versuch{tageszeit(basis, beginn), tageszeit(basis, ende)};
+        if (beginn > ende) versuch.bis = verschoben(versuch.bis, 86400.0);
+        if (ueberdeckung(versuch, rover) < 0) continue;
+        if (!beste || ueberdeckung(versuch, rover) > ueberdeckung(*beste, rover)) beste = versuch;
+    }
+    return beste;
+}
+
+double code(const Messung& m)
+{
+    for (const Art art : {Art::C1, Art::P1, Art::P2})
+        if (m[art] != 0.0) return m[art];
+    return 0.0;
+}
+
+void verschieben(Messung& m, double strecke)
+{
+    const auto dazu = [&](Art art, double betrag) {
+        double& wert = m.wert[static_cast<std::size_t>(art)];
+        if (wert != 0.0) wert += betrag;
+    };
+    for (const Art art : {Art::C1, Art::P1, Art::C2, Art::P2}) dazu(art, strecke);
+    dazu(Art::L1, strecke * FREQUENZ1 / LICHT);
+    dazu(Art::L2, strecke * FREQUENZ2 / LICHT);
+}
+
+class Lauf {
+public:
+    Lauf(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll)
+        : m_aufruf(aufruf), m_ordner(ordner), m_uhr(uhr), m_protokoll(protokoll)
+    {
+    }
+    bool rechnen();
+
+private:
+    bool rover_lesen();
+    std::vector<Kandidat> kandidaten();
+    std::optional<Beobachtungsdatei> master_lesen();
+    bool navigation_bereitstellen();
+    void uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach);
+    void kopf_setzen(RinexBeobachtung& daten, const Ort& nach);
+    bool ausgeben(const RinexBeobachtung& daten);
+    void berichten(const RinexBeobachtung& daten);
+    bool abbruch(std::string_view grund)
+    {
+        m_protokoll.fehler(grund);
+        return false;
+    }
+
+    const Wav2Aufruf& m_aufruf;
+    const Arbeitsordner& m_ordner;
+    const Uhr& m_uhr;
+    Protokoll& m_protokoll;
+    Xyz m_virtuell;
+    Zeitspanne m_spanne;
+    Kandidat m_master;
+    Navigation m_navigation;
+    Statistik m_statistik;
+};
+
+bool Lauf::rover_lesen()
+{
+    const auto rover = datei_lesen(m_ordner, m_aufruf.rover, Umfang::epochen, m_protokoll);
+    if (!rover) return false;
+    const RinexBeobachtung& daten = rover->daten;
+    if (daten.epochen.empty()) return abbruch(verkettet("Die Datei ", m_aufruf.rover, u8" enthält keine Epochen!"_w));
+    if (!ist_erdort(daten.kopf.ort))
+        return abbruch(verkettet("Die Datei ", m_aufruf.rover, u8" enthält keine Näherungskoordinaten!"_w));
+    const auto gerundet = [](double wert) { return std::round(wert * 1e4) / 1e4; };
+    m_virtuell = {gerundet(daten.kopf.ort.x), gerundet(daten.kopf.ort.y), gerundet(daten.kopf.ort.z)};
+    const auto spanne = spanne_von(m_aufruf, {daten.epochen.front().zeit, daten.epochen.back().zeit});
+    if (!spanne) return abbruch(u8"Das Zeitfenster enthält keine Epochen des Rovers!"_w);
+    m_spanne = *spanne;
+    m_protokoll.zeile(verkettet("Rover            ", m_aufruf.rover));
+    m_protokoll.zeile(
+        verkettet("  Zeitraum       ", zeit_text(m_spanne.von), " bis ", zeit_text(m_spanne.bis), " (GPS)"));
+    m_protokoll.zeile(
+        verkettet("  Ort XYZ        ", fest(m_virtuell.x, 4), " ", fest(m_virtuell.y, 4), " ", fest(m_virtuell.z, 4)));
+    return true;
+}
+
+std::vector<Kandidat> Lauf::kandidaten()
+{
+    std::vector<Kandidat> alle;
+    for (const std::string& station : m_aufruf.stationen) {
+        Kandidat k{station, stationsdateien(m_ordner, station, m_aufruf.rover, m_spanne), {}, 0.0};
+        if (k.dateien.empty()) {
+            m_protokoll.warnung(verkettet("Keine Beobachtungsdatei der Station ", station, u8" für diesen Tag."_w));
+            continue;
+        }
+        const auto kopf = datei_lesen(m_ordner, k.dateien.front(), Umfang::kopf, m_protokoll);
+        if (!kopf) continue;
+        k.ort = kopf->daten.kopf.ort;
+        if (!ist_erdort(k.ort)) {
+            m_protokoll.warnung(verkettet("Die Station ", station, " hat keine Koordinaten im Dateikopf."));
+            continue;
+        }
+        k.strecke = laenge(k.ort - m_virtuell);
+        alle.push_back(std::move(k));
+    }
+    std::stable_sort(alle.begin(), alle.end(),
+                     [](const Kandidat& a, const Kandidat& b) { return a.strecke < b.strecke; });
+    return alle;
+}
+
+// The nearest station that has observed in the span.
+std::optional<Beobachtungsdatei> Lauf::master_lesen()
+{
+    for (const Kandidat& k : kandidaten()) {
+        m_protokoll.zeile(verkettet("Station          ", k.station, ", ", fest(k.strecke / 1000.0, 3), " km"));
+        auto daten = station_lesen(m_ordner, k.dateien, m_spanne, m_protokoll);
+        if (daten) {
+            m_master = k;
+            return daten;
+        }
+        m_protokoll.warnung(verkettet("Die Station ", k.station, " hat im Zeitraum nicht beobachtet."));
+    }
+    m_protokoll.fehler("Keine Referenzstation mit Beobachtungen im Zeitraum!");
+    return {};
+}
+
+bool Lauf::navigation_bereitstellen()
+{
+    std::vector<std::string> dateien = m_master.dateien;
+    for (const std::string& station : m_aufruf.stationen)
+        for (std::string& name : stationsdateien(m_ordner, station, m_aufruf.rover, m_spanne))
+            if (station != m_master.station) dateien.push_back(std::move(name));
+    dateien.push_back(m_aufruf.rover);
+    m_navigation = navigation_suchen(m_ordner, dateien, true, m_protokoll);
+    if (m_navigation.saetze.empty()) return abbruch("Keine Navigationsdatei gefunden!");
+    return true;
+}
+
+void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
+{
+    const double maske = m_aufruf.elevation * GRAD;
+    std::vector<Messung> neu;
+    neu.reserve(daten.messungen.size());
+    for (Epoche& e : daten.epochen) {
+        const std::size_t erste = neu.size();
+        for (std::size_t i = 0; i < e.anzahl; ++i) {
+            Messung m = daten.messungen[e.erste + i];
+            const double strecke = code(m);
+            const Ephemeride* eph = passende_ephemeride(m_navigation.saetze, m.satellit, e.zeit);
+            m_statistik.ohne_code += strecke == 0.0;
+            m_statistik.ohne_bahn += strecke != 0.0 && !eph;
+            if (strecke == 0.0 || !eph) continue;
+            const Verschiebung v = verschiebung(*eph, e.zeit, strecke, von, nach, m_aufruf.modell);
+            m_statistik.unter_maske += v.elevation < maske;
+            if (v.elevation < maske) continue;
+            m_statistik.groesste = std::max(m_statistik.groesste, v.strecke);
+            m_statistik.kleinste = std::min(m_statistik.kleinste, v.strecke);
+            verschieben(m, v.strecke);
+            neu.push_back(m);
+        }
+        e.erste = erste;
+        e.anzahl = neu.size() - erste;
+    }
+    daten.messungen = std::move(neu);
+    std::erase_if(daten.epochen, [](const Epoche& e) { return e.anzahl == 0; });
+}
+
+void Lauf::kopf_setzen(RinexBeobachtung& daten, const Ort& nach)
+{
+    RinexKopf& kopf = daten.kopf;
+    const Herkunft herkunft{m_master.station, m_master.strecke, nach.blh.hoehe - Ort(m_master.ort).blh.hoehe};
+    kopf.kommentar_virtuell = herkunft_text(herkunft);
+    kopf.marke = verkettet("virt", mitte(m_aufruf.rover, 1, 4));
+    kopf.ort = nach.xyz;
+}
+
+bool Lauf::ausgeben(const RinexBeobachtung& daten)
+{
+    const std::string name = verkettet("virt", mitte(m_aufruf.rover, 5, 3), rechts(m_aufruf.rover, 4));
+    const std::string text = beobachtung_text(daten, PROGRAMM, m_uhr.jetzt());
+    const std::string nav = mit_art(name, 'n');
+    if (!m_ordner.schreiben(nav, navigation_text(m_navigation)))
+        return abbruch(verkettet("Die Datei ", nav, " konnte nicht geschrieben werden!"));
+    if (!m_ordner.schreiben(name, text))
+        return abbruch(verkettet("Die Datei ", name, " konnte nicht geschrieben werden!"));
+    m_protokoll.meldung(verkettet("Virtuelle Station ", name, " aus ", m_master.station, " (",
+                                  fest(m_master.strecke / 1000.0, 3), " km), ", daten.epochen.size(), " Epochen"));
+    return true;
+}
+
+void Lauf::berichten(const RinexBeobachtung& daten)
+{
+    m_protokoll.zeile(verkettet("Virtuelle Station, verschoben mit ", m_aufruf.modell == Troposphaerenmodell::voll
+                                                                          ? u8"voller Troposphäre"_w
+                                                                          : u8"vereinfachter Troposphäre"_w));
+    m_protokoll.zeile(verkettet("  Epochen        ", daten.epochen.size()));
+    m_protokoll.zeile(verkettet("  Beobachtungen  ", daten.messungen.size()));
+    m_protokoll.zeile(verkettet("  unter ", m_aufruf.elevation, " Grad weggelassen: ", m_statistik.unter_maske));
+    m_protokoll.zeile(verkettet("  ohne Bahn      ", m_statistik.ohne_bahn, ", ohne Code ", m_statistik.ohne_code));
+    m_protokoll.zeile(
+        verkettet("  Verschiebung   ", fest(m_statistik.kleinste, 3), " bis ", fest(m_statistik.groesste, 3), " m"));
+    if (m_master.strecke > WEIT)
+        m_protokoll.warnung(
+            verkettet("Die Station ", m_master.station, " ist ", fest(m_master.strecke / 1000.0, 1), " km entfernt."));
+}
+
+bool Lauf::rechnen()
+{
+    if (!rover_lesen()) return false;
+    auto daten = master_lesen();
+    if (!daten || !navigation_bereitstellen()) return false;
+    const Ort von(m_master.ort), nach(m_virtuell);
+    uebertragen(daten->daten, von, nach);
+    if (daten->daten.epochen.empty()) return abbruch("Kein Satellit mit Beobachtungen und Bahn im Zeitraum!");
+    kopf_setzen(daten->daten, nach);
+    berichten(daten->daten);
+    return ausgeben(daten->daten);
+}
+
+}  // namespace
+
+std::string herkunft_text(const Herkunft& herkunft)
+{
+    std::string text(HERKUNFT_ANFANG);
+    anhaengen_links(text, herkunft.station, 4);
+    anhaengen_fest(text, herkunft.strecke, 11, 1);
+    text.append(" m  DH");
+    anhaengen_fest(text, herkunft.hoehenunterschied, 9, 1);
+    return text.append(" m");
+}
+
+std::optional<Herkunft> herkunft_lesen(std::string_view kommentar)
+{
+    if (!kommentar.starts_with(HERKUNFT_ANFANG)) return {};
+    const std::string_view rest = kommentar.substr(HERKUNFT_ANFANG.size());
+    const auto strecke = spaltenzahl(spalten(rest, 4, 11)), hoehe = spaltenzahl(spalten(rest, 21, 9));
+    if (!strecke || !hoehe) return {};
+    return Herkunft{std::string(rest.substr(0, 4)), *strecke, *hoehe};
+}
+
+int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll)
+{
+    protokoll.zeile(verkettet(PROGRAMM, "  Virtuelle Referenzstation  ", datum_text(uhr.jetzt())));
+    protokoll.zeile();
+    bool gut = true;
+    for (const char art : {'o', 'n'}) {
+        const std::string alt = mit_art(verkettet("virt", mitte(aufruf.rover, 5, 3), rechts(aufruf.rover, 4)), art);
+        gut = gut && ordner.loeschen(alt);
+    }
+    if (!gut) protokoll.fehler(u8"Eine ältere virtuelle Station konnte nicht gelöscht werden!"_w);
+    gut = gut && Lauf(aufruf, ordner, uhr, protokoll).rechnen();
+    if (!ordner.schreiben(WAV2_PROTOKOLL, protokoll.text())) {
+        protokoll.fehler(verkettet("Die Datei ", WAV2_PROTOKOLL, " konnte nicht geschrieben werden!"));
+        gut = false;
+    }
+    return gut ? 0 : 1;
+}
+
+}  // namespace jorv::suite

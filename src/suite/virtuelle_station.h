@@ -1,0 +1,34 @@
+#pragma once
+// Program wav2: makes the observations of a virtual reference station at the rover's approximate place from those of
+// the nearest station, with a navigation file beside it.
+
+#include <optional>
+#include <string>
+
+#include "plattform/uhr.h"
+#include "suite/arbeitsordner.h"
+#include "suite/aufruf.h"
+#include "suite/protokoll.h"
+#include "suite/rinex_beobachtung.h"
+
+namespace jorv::suite {
+
+inline constexpr std::string_view WAV2_PROTOKOLL = "wav2log.txt";
+
+/// The real station behind a virtual one. The atmosphere's errors grow with this distance although the file's own place
+/// is the rover's, so whoever judges a solution asks for it.
+struct Herkunft {
+    std::string station;
+    double strecke = 0.0;            // metres from the virtual place
+    double hoehenunterschied = 0.0;  // metres, virtual place minus station
+};
+
+/// The comment line of the header that carries it, and back; nothing when the text is no such comment.
+std::string herkunft_text(const Herkunft& herkunft);
+std::optional<Herkunft> herkunft_lesen(std::string_view kommentar);
+
+/// Does the whole work: virt<DDD>.<yyo>, virt<DDD>.<yyn> and wav2log.txt in the folder. Exit status 0, or 1 when there
+/// is no virtual station; then the reason is in the protocol and no virt file is left.
+int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll);
+
+}  // namespace jorv::suite

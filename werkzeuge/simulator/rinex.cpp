@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "simulator/atmosphaere.h"
 #include "simulator/messung.h"
 #include "simulator/text.h"
 #include "simulator/zeit.h"
@@ -219,14 +220,27 @@ void glonass_satz(std::string& aus, const Szenario& szenario, const Satellit& s,
     viererzeile(aus, {p.z, v.z, 0, 0});
 }
 
+/// The broadcast model has a vertical delay of 5 ns at night; its daily wave carries what the mean content has more.
+double tageswelle(const Ionosphaere& ionosphaere)
+{
+    return std::max(0.0, ionosphaere_laufzeit(ionosphaere.vtec, f_l1) / lichtgeschwindigkeit - 5e-9);
+}
+
+void ionosphaerenzeile(std::string& aus, std::initializer_list<double> werte, std::string_view label)
+{
+    std::string zeile = "  ";
+    for (const double wert : werte) exponent(zeile, wert, 12, 4);
+    kopfzeile(aus, zeile, label);
+}
+
 std::string navigationskopf(const Szenario& szenario, std::string_view art)
 {
     std::string k, zeile;
     kopfzeile(k, art, "RINEX VERSION / TYPE");
     erzeuger(k, szenario.tag);
     if (art.find("GLONASS") == std::string_view::npos) {
-        kopfzeile(k, "    0.1118D-07  0.1490D-07 -0.5960D-07 -0.1192D-06", "ION ALPHA");
-        kopfzeile(k, "    0.9011D+05  0.6554D+05 -0.1311D+06 -0.4588D+06", "ION BETA");
+        ionosphaerenzeile(k, {tageswelle(szenario.wirkungen.ionosphaere), 0, 0, 0}, "ION ALPHA");
+        ionosphaerenzeile(k, {131072, 0, 0, 0}, "ION BETA");
     }
     ganz(zeile, schaltsekunden(szenario.tag), 6);
     kopfzeile(k, zeile, "LEAP SECONDS");

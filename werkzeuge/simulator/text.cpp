@@ -37,25 +37,26 @@ void ganz(std::string& aus, long long wert, int breite, char fuell)
 }
 
 namespace {
-std::string wissenschaftlich(double wert)
+std::string wissenschaftlich(double wert, int stellen)
 {
     char puffer[40];
-    const auto ende = std::to_chars(puffer, puffer + sizeof puffer, wert, std::chars_format::scientific, 12).ptr;
+    const auto ende = std::to_chars(puffer, puffer + sizeof puffer, wert, std::chars_format::scientific, stellen).ptr;
     return {puffer, ende};
 }
 }  // namespace
 
-void exponent(std::string& aus, double wert)
+void exponent(std::string& aus, double wert, int breite, int stellen)
 {
-    std::string text = wissenschaftlich(wert);
+    std::string text = wissenschaftlich(wert, stellen);
     std::replace(text.begin(), text.end(), 'e', 'D');
-    if (text.size() < 19) aus.append(19 - text.size(), ' ');
+    const auto platz = static_cast<std::size_t>(breite);
+    if (text.size() < platz) aus.append(platz - text.size(), ' ');
     aus += text;
 }
 
 double gedruckt(double wert)
 {
-    return zahl(wissenschaftlich(wert)).value_or(wert);
+    return zahl(wissenschaftlich(wert, 12)).value_or(wert);
 }
 
 void links(std::string& aus, std::string_view wert, int breite)

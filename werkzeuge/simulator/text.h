@@ -13,9 +13,9 @@ namespace jorv::simulator {
 void fest(std::string& aus, double wert, int breite, int stellen);
 /// Appends a whole number right-aligned, filled with `fuell`.
 void ganz(std::string& aus, long long wert, int breite, char fuell = ' ');
-/// Appends a number in the form D19.12 (one digit before the point).
-void exponent(std::string& aus, double wert);
-/// The value that `exponent` writes, as a reader gets it back.
+/// Appends a number with an exponent by the letter D and one digit before the point, as a rule D19.12.
+void exponent(std::string& aus, double wert, int breite = 19, int stellen = 12);
+/// The value that `exponent` writes as D19.12, as a reader gets it back.
 double gedruckt(double wert);
 /// Appends `wert` left-aligned in `breite`, cut when longer.
 void links(std::string& aus, std::string_view wert, int breite);

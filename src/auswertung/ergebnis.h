@@ -1,0 +1,20 @@
+// What a batch has left: the one line of the extraction file is cut by fixed lengths into the result files.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "modell/Global.h"
+
+namespace jorv {
+
+/// The extraction file of a rover in the project's folder: the first eight characters of its name and ".ext".
+std::string extraktionsdatei(const Global& g, std::string_view rover);
+
+/// Modes E and S. Appends the head of the line (101 characters, 117 with long point names) to <ROVER>.UTM and its last
+/// 100 characters to <ROVER>.KRZ and <Nummer>.KRZ, files the first two below jorv_out and removes the sources.
+/// `status` becomes 99 when the extraction file can't be opened, else it stays; every fault has been shown. After a
+/// fault before the filing no file that this call created stays behind.
+void rover_auswerten_vrs(Global& g, const std::string& rover, int& status);
+
+}  // namespace jorv

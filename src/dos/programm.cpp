@@ -71,7 +71,7 @@ std::vector<std::string> umgebung_fuer_kind(const Umfeld& umfeld)
     std::vector<std::string> umgebung;
     for (const auto& zeile : umfeld.umgebung)
         if (!zeile.starts_with("PATH=")) umgebung.push_back(zeile);
-    umgebung.push_back("PATH=" + suchpfad_nach_host(umfeld.dateien.laufwerke(), umfeld.suchpfad));
+    umgebung.push_back("PATH=" + suchpfad_nach_host(umfeld));
     return umgebung;
 }
 
@@ -81,6 +81,7 @@ std::optional<Programm> programm_finden(const Umfeld& umfeld, std::string_view w
 {
     const std::string pfad = ersetzt(std::string(wort), '/', '\\');
     const std::string voll = umfeld.voll(pfad);
+    if (ist_wurzel(voll)) return std::nullopt;
     if (const auto fund = in_ordner_finden(umfeld, pfad_ordner(voll), pfad_name(voll))) return fund;
     if (pfad.find_first_of("\\:") != std::string::npos) return std::nullopt;
     for (const auto& ordner : suchpfad_ordner(umfeld.suchpfad))

@@ -56,6 +56,7 @@ public:
     {
         if (m_geliehen) uebergeben(::getpgrp());
     }
+    bool geliehen() const { return m_geliehen; }
     Terminal(const Terminal&) = delete;
     Terminal& operator=(const Terminal&) = delete;
 
@@ -150,6 +151,8 @@ Laufende laufen_lassen(const Startauftrag& auftrag)
     while (::waitpid(nummer, &status, 0) < 0 && errno == EINTR) {
     }
     if (melder >= 0) ::close(melder);
+    // The key that breaks a program off on the terminal is meant for the batch too.
+    if (terminal.geliehen() && WIFSIGNALED(status) && WTERMSIG(status) == SIGINT) ::kill(::getpid(), SIGINT);
     ende.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     return ende;
 }

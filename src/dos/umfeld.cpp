@@ -87,11 +87,11 @@ std::vector<std::string> suchpfad_ordner(std::string_view dos_liste)
     return ordner;
 }
 
-std::string suchpfad_nach_host(const Laufwerke& laufwerke, std::string_view dos_liste)
+std::string suchpfad_nach_host(const Umfeld& umfeld)
 {
     std::string liste;
-    for (const auto& eintrag : suchpfad_ordner(dos_liste)) {
-        const auto host = laufwerke.host(eintrag);
+    for (const auto& eintrag : suchpfad_ordner(umfeld.suchpfad)) {
+        const auto host = umfeld.dateien.laufwerke().host(umfeld.voll(eintrag));
         if (!host || host->string().find(':') != std::string::npos) continue;
         if (!liste.empty()) liste += ':';
         liste += host->string();

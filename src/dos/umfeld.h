@@ -40,9 +40,10 @@ struct Umfeld {
 /// Nothing when the current directory can't be told as a DOS path.
 std::optional<Umfeld> umfeld_des_prozesses();
 
-/// A PATH of the host as a list of DOS folders, and back. Entries without a counterpart are left out.
+/// A PATH of the host as a list of DOS folders, and the search path back in the host's form. Entries without a
+/// counterpart are left out.
 std::string suchpfad_aus_host(const Laufwerke& laufwerke, std::string_view host_liste);
-std::string suchpfad_nach_host(const Laufwerke& laufwerke, std::string_view dos_liste);
+std::string suchpfad_nach_host(const Umfeld& umfeld);
 
 /// The folders of a DOS list; quotes around an entry protect ";" and are removed.
 std::vector<std::string> suchpfad_ordner(std::string_view dos_liste);

@@ -246,7 +246,6 @@ std::optional<std::string> marke(std::string_view zeile)
     zeile = ohne_blanks(zeile);
     if (!zeile.starts_with(':')) return std::nullopt;
     zeile.remove_prefix(1);
-    zeile = ohne_blanks(zeile);
     return klein(zeile.substr(0, zeile.find_first_of(" \t:,;=+")));
 }
 

@@ -1,0 +1,133 @@
+// Finding and starting programs.
+#include "dos/programm.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "dos/probe.h"
+#include "plattform/text.h"
+
+namespace jorv::dos::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Programm, argumente_ordner_und_umgebung)
+{
+    Probe probe;
+    probe.anlegen({"unter ü\\"});
+    probe.programm("zeig", "printf '<%s>' \"$@\"; pwd; echo \"$PROBE|$PATH\"; cat; echo F >&2; exit 7");
+    const auto ausgang = probe.lauf(
+        "cd unter ü\npath D:\\Hilfs programme;X:\\fehlt;\"E:\\\"\n"
+        "zeig 0384,0585  \"a  b\" +Vvirt,ä.05o >> ..\\aus.txt\necho %errorlevel%\n");
+    const std::string wurzel = fs::path(probe.ort("D:\\")).string();
+    const std::string e = probe.ort("E:\\").string();
+    EXPECT_EQ(probe.inhalt("aus.txt"), verkettet("<0384,0585><a  b><+Vvirt,ä.05o>", wurzel, "/Prüf a b/unter ü\nWert|",
+                                                 wurzel, "/Hilfs programme:", e, ":/usr/bin:/bin\n"));
+    EXPECT_EQ(ausgang.fehler, "F\n");
+    EXPECT_EQ(ausgang.aus, "7\r\n");
+}
+
+TEST(Programm, suche)
+{
+    struct Fall {
+        std::string_view wort, findet;
+    };
+    const Fall faelle[] = {
+        {"wa2", "H wa2"},
+        {"WA2", "H wa2"},
+        {"wa2.exe", "H wa2"},
+        {"WATIME", "H WATIME"},
+        {"watime.EXE", "H WATIME"},
+        {"RUNA.EXE", "H runa.exe"},
+        {"runa", "H runa.exe"},
+        {"beides", "H beides.com"},
+        {"beides.exe", "H beides.exe"},
+        {"hier", "A hier"},
+        {"nurdaten", ""},
+        {"ordner", ""},
+        {"fehlt", ""},
+        {"fehlt.exe", ""},
+        {"\"D:\\Hilfs programme\\wa2\"", "H wa2"},
+        {"D:\\wa2", ""},
+        {".\\hier", "A hier"},
+        {".\\wa2", ""},
+        {"\\\\server", ""},
+        {"\\\\server\\freigabe\\wa2", "S wa2"},
+        {"weit", "E weit"},
+    };
+    Probe probe;
+    for (const auto* name : {"wa2", "WATIME", "runa.exe", "runa", "beides.exe", "beides.com", "beides", "hier"})
+        probe.programm(name, verkettet("echo H ", name));
+    probe.anlegen({"hier=#!/bin/sh\necho A hier\n", "nurdaten=#!/bin/sh\necho nein\n", "ordner\\",
+                   "E:\\weit=#!/bin/sh\necho E weit\n", "E:\\wa2=#!/bin/sh\necho nein\n",
+                   "\\\\server\\freigabe\\wa2=#!/bin/sh\necho S wa2\n"});
+    for (const auto* name : {"hier", "E:\\weit", "E:\\wa2", "\\\\server\\freigabe\\wa2"})
+        fs::permissions(probe.ort(name), fs::perms::owner_all);
+    for (const auto& fall : faelle) {
+        const auto ausgang = probe.lauf(verkettet("path %path%;E:\\\n", fall.wort));
+        EXPECT_EQ(ausgang.aus, fall.findet.empty() ? "" : verkettet(fall.findet, "\n")) << fall.wort;
+        EXPECT_EQ(ausgang.meldungen, fall.findet.empty() ? 1 : 0) << fall.wort << ausgang.fehler;
+    }
+}
+
+TEST(Programm, nicht_gefunden_ist_9009)
+{
+    Probe probe;
+    EXPECT_EQ(probe.lauf("fehlt\necho %errorlevel%").aus, "9009\r\n");
+    probe.anlegen({"kaputt=kein Programm"});
+    fs::permissions(probe.ort("kaputt"), fs::perms::owner_all);
+    const auto ausgang = probe.lauf("kaputt\necho weiter");
+    EXPECT_EQ(ausgang.aus, "weiter\r\n");
+    EXPECT_EQ(ausgang.meldungen, 1);
+}
+
+TEST(Programm, rohr_und_eingabe)
+{
+    Probe probe;
+    probe.programm("gross", "tr a-z A-Z");
+    probe.anlegen({"ein=abc"});
+    EXPECT_EQ(probe.lauf("gross < ein\necho xyz|gross\necho a|gross|gross > f").aus, "ABCXYZ\r\n");
+    EXPECT_EQ(probe.inhalt("f"), "A\r\n");
+    EXPECT_EQ(probe.lauf("gross < fehlt").meldungen, 1);
+}
+
+TEST(Programm, frist_beendet_auch_enkel)
+{
+    Probe probe;
+    probe.umfeld.frist = std::chrono::seconds(1);
+    probe.programm("haengt", "sleep 1000 & echo $! > enkel.txt; wait");
+    const auto ausgang = probe.lauf("haengt\necho weiter");
+    EXPECT_EQ(ausgang.aus, "weiter\r\n");
+    EXPECT_THAT(ausgang.fehler, testing::HasSubstr("nach 1 Sekunden beendet"));
+    const pid_t enkel = std::stoi(probe.inhalt("enkel.txt"));
+    // The killed grandchild is reaped by the system's first process, which may take a moment.
+    bool fort = false;
+    for (int i = 0; i < 200 && !fort; ++i) {
+        const std::string zustand = [&] {
+            std::FILE* datei = std::fopen(verkettet("/proc/", enkel, "/stat").c_str(), "r");
+            char text[200] = "";
+            if (datei && !std::fgets(text, sizeof text, datei)) text[0] = '\0';
+            if (datei) std::fclose(datei);
+            return std::string(text);
+        }();
+        fort = zustand.empty() || zustand.find(") Z") != std::string::npos;
+        if (!fort) ::usleep(10000);
+    }
+    EXPECT_TRUE(fort);
+}
+
+TEST(Programm, suchpfad_des_rechners)
+{
+    Probe probe;
+    const auto& laufwerke = probe.umfeld.dateien.laufwerke();
+    const std::string d = probe.ort("D:\\").string();
+    EXPECT_EQ(suchpfad_aus_host(laufwerke, verkettet("/usr/bin::", d, "/a b:/opt/\xE6\x97\xA5:/x;y")),
+              "Z:\\usr\\bin;D:\\a b;\"Z:\\x;y\"");
+    probe.umfeld.suchpfad = "Z:\\usr\\bin;D:\\a b;;\"Z:\\x;y\"; E:\\ ;";
+    EXPECT_EQ(suchpfad_nach_host(probe.umfeld), verkettet("/usr/bin:", d, "/a b:/x;y:", probe.ort("E:\\").string()));
+}
+
+}  // namespace
+}  // namespace jorv::dos::test

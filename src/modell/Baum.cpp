@@ -4,7 +4,6 @@
 #include <unordered_set>
 
 #include "modell/Gemeinsam.h"
-#include "modell/Global.h"
 #include "plattform/text.h"
 
 namespace jorv {
@@ -79,13 +78,6 @@ void basislinien_eintragen(Global& g)
 }
 
 }  // namespace
-
-const Hauptknoten* Baum::finden(std::string_view schluessel) const
-{
-    for (const auto& k : Knoten)
-        if (k.Schluessel == schluessel) return &k;
-    return nullptr;
-}
 
 int rover_bild(const Global& g, int i)
 {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "modell/Baum.h"
 #include "modell/Begruendung.h"
 #include "modell/Feld.h"
+#include "modell/Knoten.h"
 #include "modell/Saetze.h"
 #include "plattform/datei.h"
 #include "plattform/oberflaeche.h"

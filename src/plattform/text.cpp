@@ -149,7 +149,7 @@ std::string ersetzt(std::string_view text, std::string_view alt, std::string_vie
     }
 }
 
-void detail::anhaengen(std::string& ziel, long long teil)
+void detail::anhaengen_zahl(std::string& ziel, long long teil)
 {
     char puffer[24];
     const auto [ende, fehler] = std::to_chars(puffer, puffer + sizeof puffer, teil);

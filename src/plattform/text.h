@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -135,18 +136,11 @@ inline void anhaengen(std::string& ziel, char teil)
 {
     ziel += teil;
 }
-void anhaengen(std::string& ziel, long long teil);
-inline void anhaengen(std::string& ziel, int teil)
+void anhaengen_zahl(std::string& ziel, long long teil);
+template <std::integral Ganzzahl>
+void anhaengen(std::string& ziel, Ganzzahl teil)
 {
-    anhaengen(ziel, static_cast<long long>(teil));
-}
-inline void anhaengen(std::string& ziel, long teil)
-{
-    anhaengen(ziel, static_cast<long long>(teil));
-}
-inline void anhaengen(std::string& ziel, unsigned long teil)
-{
-    anhaengen(ziel, static_cast<long long>(teil));
+    anhaengen_zahl(ziel, static_cast<long long>(teil));
 }
 }  // namespace detail
 template <typename... Teile>

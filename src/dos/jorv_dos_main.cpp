@@ -47,7 +47,7 @@ std::optional<Auftrag> auftrag_lesen(const std::vector<std::string>& worte)
 std::optional<std::string> dos_pfad(const dos::Umfeld& umfeld, const std::string& utf8)
 {
     const auto text = text_aus_utf8(utf8);
-    if (text && ist_dos_pfad(*text)) return umfeld.voll(*text);
+    if (text && (ist_dos_pfad(*text) || text->find('\\') != std::string::npos)) return umfeld.voll(*text);
     return umfeld.dateien.laufwerke().dos(utf8);
 }
 

@@ -50,7 +50,10 @@ class Terminal {
 public:
     Terminal(int nummer, pid_t gruppe) : m_nummer(nummer)
     {
-        if (::isatty(nummer) && ::tcgetpgrp(nummer) == ::getpgrp()) m_geliehen = uebergeben(gruppe);
+        if (!::isatty(nummer) || ::tcgetpgrp(nummer) != ::getpgrp()) return;
+        m_geliehen = uebergeben(gruppe);
+        // It may have been stopped in between.
+        ::kill(-gruppe, SIGCONT);
     }
     ~Terminal()
     {
@@ -152,7 +155,10 @@ Laufende laufen_lassen(const Startauftrag& auftrag)
     }
     if (melder >= 0) ::close(melder);
     // The key that breaks a program off on the terminal is meant for the batch too.
-    if (terminal.geliehen() && WIFSIGNALED(status) && WTERMSIG(status) == SIGINT) ::kill(::getpid(), SIGINT);
+    if (terminal.geliehen() && WIFSIGNALED(status) && WTERMSIG(status) == SIGINT) {
+        ::kill(-nummer, SIGKILL);
+        ::kill(::getpid(), SIGINT);
+    }
     ende.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     return ende;
 }

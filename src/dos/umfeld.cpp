@@ -59,9 +59,10 @@ std::string suchpfad_aus_host(const Laufwerke& laufwerke, std::string_view host_
         host_liste.remove_prefix(ende == std::string_view::npos ? host_liste.size() : ende + 1);
         if (eintrag.empty()) continue;
         const auto dos = laufwerke.dos(fs::path(eintrag));
-        if (!dos) continue;
+        if (!dos || dos->find('"') != std::string::npos) continue;
         if (!liste.empty()) liste += ';';
-        liste += dos->find(';') == std::string::npos ? *dos : verkettet('"', *dos, '"');
+        // Quotes keep these signs from cutting the line that the list is put into.
+        liste += dos->find_first_of(";&|<>^") == std::string::npos ? *dos : verkettet('"', *dos, '"');
     }
     return liste;
 }

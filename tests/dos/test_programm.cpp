@@ -123,8 +123,8 @@ TEST(Programm, suchpfad_des_rechners)
     Probe probe;
     const auto& laufwerke = probe.umfeld.dateien.laufwerke();
     const std::string d = probe.ort("D:\\").string();
-    EXPECT_EQ(suchpfad_aus_host(laufwerke, verkettet("/usr/bin::", d, "/a b:/opt/\xE6\x97\xA5:/x;y")),
-              "Z:\\usr\\bin;D:\\a b;\"Z:\\x;y\"");
+    EXPECT_EQ(suchpfad_aus_host(laufwerke, verkettet("/usr/bin::", d, "/a b:/opt/\xE6\x97\xA5:/x;y:/r&d")),
+              "Z:\\usr\\bin;D:\\a b;\"Z:\\x;y\";\"Z:\\r&d\"");
     probe.umfeld.suchpfad = "Z:\\usr\\bin;D:\\a b;;\"Z:\\x;y\"; E:\\ ;";
     EXPECT_EQ(suchpfad_nach_host(probe.umfeld), verkettet("/usr/bin:", d, "/a b:/x;y:", probe.ort("E:\\").string()));
 }

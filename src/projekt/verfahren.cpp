@@ -164,6 +164,7 @@ Fehler daten_lesen(Global& g, const std::string& datei, const Profil& profil)
 {
     if (ist_fehler(Verfahrensdaten_leeren(g))) return Fehler::gesetzt;
     Verfahren_lesen(g, datei, profil);
+    g.dateien.reste_wegraeumen(g.Arbeitsverzeichnis);
     vier_Menues(g, true);
     if (ist_fehler(Dateidaten_lesen(g, profil))) return Fehler::gesetzt;
     g.vollstaendig_gelesen = true;

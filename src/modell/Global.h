@@ -4,9 +4,11 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "modell/Abtastung.h"
 #include "modell/Begruendung.h"
 #include "modell/Feld.h"
 #include "modell/Knoten.h"
@@ -57,6 +59,8 @@ struct Global {
     std::vector<Begruendung> Begruendungen;  ///< of the last automatik, by rover from 0
     Baum baum;
     std::vector<std::string> antennenliste;  ///< of the last antenna test
+    /// Kept between the two readers of an observation file, so that it is passed over once.
+    std::optional<Abtastung> abtastung;
 
     // The running program.
     std::int16_t abbruch = 0;  ///< -1: the user asked to stop

@@ -1,0 +1,313 @@
+#include "daten/antennen_datei.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "daten/dateistand.h"
+#include "daten/rinex_abtastung.h"
+#include "modell/Gemeinsam.h"
+#include "modell/Meldungen.h"
+#include "plattform/profil.h"
+#include "plattform/text.h"
+#include "projekt/projektdatei_schreiben.h"
+
+namespace jorv {
+
+namespace {
+
+constexpr std::string_view kopf_datei = "Die Antennendatei:";
+
+constexpr std::array<std::string_view, 11> apc_kopf = {
+    "12345678911234567892123456789312345678941234567895123456789612345678971234567890",
+    "         0         0         0         0         0         0         0         0",
+    "VENDOR         MODEL #               DESCRIPTION                  (AVE) YR/MO/DY",
+    "                                                             |AVE = # in average",
+    " [north]  [ east]  [  up ]             ",
+    " [90]  [85]  [80]  [75]  [70]  [65]  [60]  [55]  [50]  [45]  | L1 Phase at",
+    " [40]  [35]  [30]  [25]  [20]  [15]  [10]  [ 5]  [ 0]        | Elevation (mm)",
+    " [north]  [ east]  [  up ]                                   | L2 Offset (mm)",
+    " [90]  [85]  [80]  [75]  [70]  [65]  [60]  [55]  [50]  [45]  | L2 Phase at",
+    " [40]  [35]  [30]  [25]  [20]  [15]  [10]  [ 5]  [ 0]        | Elevation (mm)",
+    ""};
+
+// The list of refused files of one run of a generator.
+class Kaputte {
+public:
+    Kaputte(Global& g, Feld<std::string>& liste, std::string_view routine)
+        : m_g(&g), m_liste(&liste), m_routine(routine)
+    {
+    }
+    bool leeren(int nummer)
+    {
+        m_liste->leeren();
+        return m_liste->groesse_setzen(0) || melden(nummer, "    ReDim l_kaputte_antenne(0)");
+    }
+    bool aufnehmen(int nummer, const std::string& name)
+    {
+        if (m_liste->anfuegen(name)) return true;
+        return melden(nummer, verkettet("    ReDim Preserve l_kaputte_antenne(", m_liste->anzahl(), ")"));
+    }
+    bool leer() const { return m_liste->anzahl() == 0; }
+
+private:
+    bool melden(int nummer, std::string_view anweisung)
+    {
+        stop_melden(*m_g, dimensionierung_meldung(nummer, m_routine, anweisung));
+        return false;
+    }
+    Global* m_g;
+    Feld<std::string>* m_liste;
+    std::string_view m_routine;
+};
+
+struct Gelesen {
+    Abbild abbild;
+    Dateistand stand;
+};
+
+// Maps an antenna file of the project; a failure has shown its message.
+Gelesen oeffnen(Global& g, const std::string& name)
+{
+    const std::string pfad = im_Verfahren(g, name);
+    std::error_code grund;
+    Gelesen datei{g.dateien.abbilden(pfad, grund), Dateistand::gut};
+    datei.stand = dateistand(grund);
+    if (datei.stand != Dateistand::gut)
+        stop_melden(g, datei_meldung(kopf_datei, pfad,
+                                     datei.stand == Dateistand::gestoert ? u8"konnte nicht richtig gelesen werden!"_w
+                                                                         : u8"konnte nicht geöffnet werden!"_w));
+    return datei;
+}
+
+// What the files checked so far agree on.
+struct Kalibrierung {
+    std::string Art;              // "A" absolute, "R" relative
+    std::string Referenzantenne;  // 20 characters
+};
+
+std::string_view art_wort(std::string_view art)
+{
+    return art == "A" ? "absolut" : art == "R" ? "relativ" : "???";
+}
+
+enum class Urteil { passt, andere_art, andere_referenz };
+
+Urteil zeile_pruefen(std::string_view zeile, bool erste_datei, Kalibrierung& bisher)
+{
+    const auto art = links(zeile, 1), referenz = mitte(zeile, 21, 20);
+    if (bisher.Art.empty() && erste_datei)
+        bisher.Art = art;
+    else if (bisher.Art != art)
+        return Urteil::andere_art;
+    if (bisher.Referenzantenne.empty() && erste_datei)
+        bisher.Referenzantenne = referenz;
+    else if (bisher.Art == "R" && bisher.Referenzantenne != referenz)
+        return Urteil::andere_referenz;
+    return Urteil::passt;
+}
+
+void ablehnung_melden(Global& g, Urteil urteil, std::string_view zeile, const Kalibrierung& bisher,
+                      const std::string& name)
+{
+    if (urteil == Urteil::andere_art)
+        stop_melden(
+            g, verkettet(u8"Relativ und absolut kalibrierte Antennen dürfen in einem Verfahren\nnicht "_w,
+                         u8"gemischt werden!\nDie bisher geprüften Antennen waren >"_w, art_wort(bisher.Art),
+                         "< kalibriert.\n\nDie Antennendatei:\n", name, "\nwird nicht in das Verfahren integriert!"));
+    else
+        stop_melden(g, verkettet(u8"Relativ kalibrierte Antennen dürfen in einem Verfahren\nnur auf die gleiche "_w,
+                                 u8"Referenzantenne bezogen sein!\nDie bisher geprüften Antennen waren auf >"_w,
+                                 trimmen(bisher.Referenzantenne), "< bezogen.\n\nDie Antennendatei:\n", name,
+                                 u8"\nenthält eine andere Referenzantenne >"_w, trimmen(mitte(zeile, 21, 20)),
+                                 "< und wird\ndeshalb nicht in das Verfahren integriert!"));
+}
+
+// One file of the checking pass; false stops the generator.
+bool datei_pruefen(Global& g, const std::string& name, bool erste_datei, Kalibrierung& bisher, Kaputte& kaputte)
+{
+    const Gelesen datei = oeffnen(g, name);
+    if (datei.stand == Dateistand::gestoert) return false;
+    if (datei.stand == Dateistand::nicht_offen) return kaputte.aufnehmen(81, name);
+    Zeilenleser zeilen(datei.abbild.text());
+    while (const auto zeile = zeilen.naechste()) {
+        if (!ist_kopfzeile(*zeile, "PCV TYPE / REFANT")) continue;
+        const Urteil urteil = zeile_pruefen(*zeile, erste_datei, bisher);
+        if (urteil == Urteil::passt) continue;
+        ablehnung_melden(g, urteil, *zeile, bisher, name);
+        return kaputte.aufnehmen(urteil == Urteil::andere_art ? 82 : 83, name);
+    }
+    return true;
+}
+
+void zeilen_anfuegen(std::string& ziel, Zeilenleser zeilen)
+{
+    while (const auto zeile = zeilen.naechste()) {
+        ziel += *zeile;
+        ziel += "\r\n";
+    }
+}
+
+// Writes the project file whole.
+bool projektdatei_schreiben(Global& g, const std::string& pfad, std::string_view inhalt)
+{
+    const auto stand = dateistand(g.dateien.schreiben(pfad, inhalt));
+    if (stand == Dateistand::gut) return true;
+    if (stand == Dateistand::nicht_offen)
+        stop_melden(g, datei_meldung(kopf_datei, pfad, u8"konnte nicht angelegt/überschrieben werden!"_w));
+    else
+        stop_melden(g, datei_meldung("In die Antennendatei:", pfad, "konnte nicht richtig geschreiben werden!"));
+    return false;
+}
+
+void fertig(Global& g)
+{
+    Datum_setzen(g);
+    g.oberflaeche->menue_erneuern();
+}
+
+void kaputte_entfernen(Global& g, const Feld<std::string>& kaputte)
+{
+    for (const auto& name : kaputte) antennen_loeschen(g, name);
+}
+
+Fehler atx_schreiben(Global& g, Kaputte& kaputte)
+{
+    std::string inhalt;
+    for (const auto& name : g.Antennen_Dateien) {
+        const Gelesen datei = oeffnen(g, name);
+        if (datei.stand == Dateistand::gestoert) return Fehler::gesetzt;
+        if (datei.stand == Dateistand::gut)
+            zeilen_anfuegen(inhalt, Zeilenleser(datei.abbild.text()));
+        else if (!kaputte.aufnehmen(84, name))
+            return Fehler::gesetzt;
+    }
+    if (!projektdatei_schreiben(g, Verfahrens_Datei(g, ".ATX"), inhalt)) return Fehler::gesetzt;
+    fertig(g);
+    return Fehler::keiner;
+}
+
+// What a file of the IGS form adds: all behind its head; nothing when it is shorter than that.
+std::optional<std::string> apc_inhalt(std::string_view text)
+{
+    Zeilenleser zeilen(text);
+    for (std::size_t i = 0; i < apc_kopf.size(); ++i)
+        if (!zeilen.naechste()) return std::nullopt;
+    std::string inhalt;
+    zeilen_anfuegen(inhalt, zeilen);
+    return inhalt;
+}
+
+// The list of antenna files less one name; false when it can't be resized.
+bool aus_liste(Global& g, std::string_view name)
+{
+    auto& liste = g.Antennen_Dateien;
+    const auto stelle = std::find(liste.begin(), liste.end(), name);
+    if (stelle == liste.end()) return true;
+    std::rotate(stelle, stelle + 1, liste.end());
+    return liste.groesse_setzen(liste.anzahl() - 1);
+}
+
+std::string preserve(const Global& g)
+{
+    return verkettet("    ReDim Preserve Antennen_Dateien(", g.Antennen_Dateien.anzahl() - 1, ")");
+}
+
+}  // namespace
+
+Fehler VerfahrensATX_erzeugen(Global& g, Feld<std::string>& kaputte)
+{
+    Kaputte liste(g, kaputte, "VerfahrensATX_erzeugen");
+    if (!liste.leeren(80)) return Fehler::gesetzt;
+    Kalibrierung bisher;
+    for (int i = 1; i <= g.Antennen_Dateien.anzahl(); ++i)
+        if (!datei_pruefen(g, g.Antennen_Dateien[i], i == 1, bisher, liste)) return Fehler::gesetzt;
+    Fehler fehler = Fehler::gesetzt;
+    if (liste.leer()) fehler = atx_schreiben(g, liste);
+    kaputte_entfernen(g, kaputte);
+    return fehler;
+}
+
+Fehler VerfahrensATX_erzeugen(Global& g)
+{
+    Feld<std::string> kaputte;
+    return VerfahrensATX_erzeugen(g, kaputte);
+}
+
+Fehler VerfahrensAPC_erzeugen(Global& g, Feld<std::string>& kaputte)
+{
+    Kaputte liste(g, kaputte, "VerfahrensAPC_erzeugen");
+    if (!liste.leeren(51)) return Fehler::gesetzt;
+    std::string inhalt;
+    for (const auto zeile : apc_kopf) inhalt += verkettet(zeile, "\r\n");
+    for (const auto& name : g.Antennen_Dateien) {
+        const Gelesen datei = oeffnen(g, name);
+        if (datei.stand == Dateistand::gestoert) return Fehler::gesetzt;
+        if (datei.stand == Dateistand::nicht_offen) {
+            if (!liste.aufnehmen(52, name)) return Fehler::gesetzt;
+            continue;
+        }
+        if (const auto teil = apc_inhalt(datei.abbild.text())) {
+            inhalt += *teil;
+            continue;
+        }
+        stop_melden(g, datei_meldung(kopf_datei, im_Verfahren(g, name), "hat nicht den richtigen Aufbau!"));
+        if (liste.aufnehmen(53, name)) kaputte_entfernen(g, kaputte);
+        return Fehler::gesetzt;
+    }
+    const bool geschrieben = projektdatei_schreiben(g, Verfahrens_Datei(g, ".APC"), inhalt);
+    if (geschrieben) fertig(g);
+    kaputte_entfernen(g, kaputte);
+    return geschrieben ? Fehler::keiner : Fehler::gesetzt;
+}
+
+Fehler VerfahrensAPC_erzeugen(Global& g)
+{
+    Feld<std::string> kaputte;
+    return VerfahrensAPC_erzeugen(g, kaputte);
+}
+
+void antennen_loeschen(Global& g, std::string_view name)
+{
+    if (!aus_liste(g, name)) stop_melden(g, dimensionierung_meldung(54, "antennen_loeschen", preserve(g)));
+}
+
+Fehler Antennen_Datei_loeschen(Global& g, const std::string& name)
+{
+    const std::string frage = verkettet(
+        "Die Antennendatei: ", name, " wird aus dem Verfahren entfernt!\n",
+        u8"Sie wird dabei auch im Verzeichnis des Verfahrens physikalisch gelöscht!\n\nDie Funktion jetzt ausführen?"_w);
+    if (g.oberflaeche->frage(Symbol::frage, frage, Antwort::ja) == Antwort::nein) return Fehler::keiner;
+    const auto abbrechen = [&g](std::string_view text) {
+        stop_melden(g, text);
+        return Fehler::gesetzt;
+    };
+    const std::string pfad = im_Verfahren(g, name);
+    if (!g.dateien.vorhanden(pfad))
+        return abbrechen(verkettet("Die Antennedatei: ", name, "\nist nicht mehr im Verfahrensverzeichnis: ",
+                                   g.Arbeitsverzeichnis, u8"\nvorhanden! Löschfunktion abgebrochen"_w));
+    if (g.dateien.loeschen(pfad))
+        return abbrechen(
+            verkettet("Die Antennedatei: ", name, u8"\nkonnte nicht gelöscht werden! Löschfunktion abgebrochen"_w));
+    if (!aus_liste(g, name))
+        return abbrechen(verkettet("Dimensionierungsfehler! (65 in Antennen_Datei_loeschen)\n", preserve(g),
+                                   "\nevtl. Speicherplatzprobleme!"));
+
+    std::error_code grund;
+    Profil profil = Profil::aus_datei(g.dateien, g.Verfahrensdatei, grund);
+    profil.entfernen("ANTENNEN-DATEIEN", verkettet(g.Antennen_Dateien.anzahl() + 1));
+    // A failure shows when the project is saved below.
+    if (!grund && profil.hat_sektion("ANTENNEN-DATEIEN")) grund = profil.schreiben(g.dateien, g.Verfahrensdatei);
+
+    const std::string format = Antennenformat(g);
+    if (Verfahren_Satz* verfahren = aktuelles_Verfahren(g); verfahren && g.Antennen_Dateien.anzahl() == 0)
+        verfahren->Antenne = "?";
+    else if (format == "ATX")
+        (void)VerfahrensATX_erzeugen(g);
+    else if (format == "APC")
+        (void)VerfahrensAPC_erzeugen(g);
+    baum_aufbauen(g);
+    return Verfahren_sichern(g);
+}
+
+}  // namespace jorv

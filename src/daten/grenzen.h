@@ -1,0 +1,19 @@
+// The enciphered border lines that the map draws.
+#pragma once
+
+#include <string_view>
+
+#include "modell/Global.h"
+#include "plattform/fehler.h"
+
+namespace jorv {
+
+/// Reads the border file into Lnd, with progress. An abort by the user turns the borders off (Grenzen "0") and is no
+/// failure. Failure has shown its message.
+Fehler grafik_grenzen_laden(Global& g);
+
+/// Makes the border file from plain lines "Typ Rechtswert Hochwert" (metres; empty lines are passed over). A bad line
+/// shows its message, and the old file stays.
+Fehler grenzen_machen(Global& g, std::string_view listentext);
+
+}  // namespace jorv

@@ -1,0 +1,59 @@
+// One pass over the mapped bytes of a RINEX 2 observation file: header lines one by one, then the last epoch line and
+// the satellite inventory together. Two readers need the data section, and each walks it by its own rules (only one
+// follows continuation lines); both walks are driven in step over the same lines, so the file is touched once.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "modell/Abtastung.h"
+#include "modell/Global.h"
+#include "plattform/fehler.h"
+
+namespace jorv {
+
+/// The lines of a text, counted from 1. A line ends at LF, a CR before it is dropped.
+class Zeilenstrom {
+public:
+    explicit Zeilenstrom(std::string_view text) : m_stelle(text.data()), m_ende(text.data() + text.size()) {}
+    /// The next line, or nothing behind the last one.
+    std::optional<std::string_view> naechste();
+    /// Passes over that many lines, fewer where the text ends.
+    void ueberspringen(std::int64_t anzahl);
+    /// Number of the line read last.
+    int nummer() const { return m_nummer; }
+
+private:
+    const char* m_stelle;
+    const char* m_ende;
+    int m_nummer = 0;
+};
+
+/// Whether the header label stands at column 61; what follows it doesn't matter.
+bool ist_kopfzeile(std::string_view zeile, std::string_view marke);
+
+/// The count of observation types of a "# / TYPES OF OBSERV" line; 0 when it holds no usable number.
+std::int32_t typen_lesen(std::string_view zeile);
+
+struct Epochen {
+    std::string_view letzte_Zeile;        ///< of the last epoch, as it stands in the file; empty when there is none
+    std::vector<std::string> Satelliten;  ///< distinct, in the order of their appearance, at most 70
+};
+
+/// Walks the data section from the stream's place to the end of the file.
+Epochen epochen_abtasten(Zeilenstrom& strom, std::int32_t typen);
+
+/// A mapped observation file of the project directory.
+struct Beobachtungsdatei {
+    Abbild abbild;
+    Dateikennung kennung;
+};
+
+/// Opens a file of the project, or of the path given when it is a whole one. `kopf` begins the message of a file that
+/// can't be opened ("Die Beobachtungsdatei:"); nothing after a message.
+std::optional<Beobachtungsdatei> beobachtungsdatei_oeffnen(Global& g, const std::string& name, std::string_view kopf);
+
+}  // namespace jorv

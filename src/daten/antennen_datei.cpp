@@ -4,7 +4,6 @@
 #include <array>
 #include <optional>
 
-#include "daten/dateistand.h"
 #include "daten/rinex_abtastung.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
@@ -61,22 +60,15 @@ private:
     std::string_view m_routine;
 };
 
-struct Gelesen {
-    Abbild abbild;
-    Dateistand stand;
-};
-
-// Maps an antenna file of the project; a failure has shown its message.
+// Reads an antenna file of the project; a failure has shown its message.
 Gelesen oeffnen(Global& g, const std::string& name)
 {
     const std::string pfad = im_Verfahren(g, name);
-    std::error_code grund;
-    Gelesen datei{g.dateien.abbilden(pfad, grund), Dateistand::gut};
-    datei.stand = dateistand(grund);
-    if (datei.stand != Dateistand::gut)
+    Gelesen datei = g.dateien.lesen_stufenweise(pfad);
+    if (!datei.gut())
         stop_melden(g, datei_meldung(kopf_datei, pfad,
-                                     datei.stand == Dateistand::gestoert ? u8"konnte nicht richtig gelesen werden!"_w
-                                                                         : u8"konnte nicht geöffnet werden!"_w));
+                                     datei.stufe == Dateistufe::oeffnen ? u8"konnte nicht geöffnet werden!"_w
+                                                                        : "konnte nicht richtig gelesen werden!"));
     return datei;
 }
 
@@ -127,9 +119,9 @@ void ablehnung_melden(Global& g, Urteil urteil, std::string_view zeile, const Ka
 bool datei_pruefen(Global& g, const std::string& name, bool erste_datei, Kalibrierung& bisher, Kaputte& kaputte)
 {
     const Gelesen datei = oeffnen(g, name);
-    if (datei.stand == Dateistand::gestoert) return false;
-    if (datei.stand == Dateistand::nicht_offen) return kaputte.aufnehmen(81, name);
-    Zeilenleser zeilen(datei.abbild.text());
+    if (datei.stufe == Dateistufe::oeffnen) return kaputte.aufnehmen(81, name);
+    if (!datei.gut()) return false;
+    Zeilenleser zeilen(datei.text);
     while (const auto zeile = zeilen.naechste()) {
         if (!ist_kopfzeile(*zeile, "PCV TYPE / REFANT")) continue;
         const Urteil urteil = zeile_pruefen(*zeile, erste_datei, bisher);
@@ -151,9 +143,9 @@ void zeilen_anfuegen(std::string& ziel, Zeilenleser zeilen)
 // Writes the project file whole.
 bool projektdatei_schreiben(Global& g, const std::string& pfad, std::string_view inhalt)
 {
-    const auto stand = dateistand(g.dateien.schreiben(pfad, inhalt));
-    if (stand == Dateistand::gut) return true;
-    if (stand == Dateistand::nicht_offen)
+    const Dateistufe stufe = g.dateien.schreiben_stufenweise(pfad, inhalt);
+    if (stufe == Dateistufe::gut) return true;
+    if (stufe == Dateistufe::oeffnen)
         stop_melden(g, datei_meldung(kopf_datei, pfad, u8"konnte nicht angelegt/überschrieben werden!"_w));
     else
         stop_melden(g, datei_meldung("In die Antennendatei:", pfad, "konnte nicht richtig geschreiben werden!"));
@@ -176,11 +168,9 @@ Fehler atx_schreiben(Global& g, Kaputte& kaputte)
     std::string inhalt;
     for (const auto& name : g.Antennen_Dateien) {
         const Gelesen datei = oeffnen(g, name);
-        if (datei.stand == Dateistand::gestoert) return Fehler::gesetzt;
-        if (datei.stand == Dateistand::gut)
-            zeilen_anfuegen(inhalt, Zeilenleser(datei.abbild.text()));
-        else if (!kaputte.aufnehmen(84, name))
+        if (!datei.gut() && (datei.stufe != Dateistufe::oeffnen || !kaputte.aufnehmen(84, name)))
             return Fehler::gesetzt;
+        zeilen_anfuegen(inhalt, Zeilenleser(datei.text));
     }
     if (!projektdatei_schreiben(g, Verfahrens_Datei(g, ".ATX"), inhalt)) return Fehler::gesetzt;
     fertig(g);
@@ -242,12 +232,12 @@ Fehler VerfahrensAPC_erzeugen(Global& g, Feld<std::string>& kaputte)
     for (const auto zeile : apc_kopf) inhalt += verkettet(zeile, "\r\n");
     for (const auto& name : g.Antennen_Dateien) {
         const Gelesen datei = oeffnen(g, name);
-        if (datei.stand == Dateistand::gestoert) return Fehler::gesetzt;
-        if (datei.stand == Dateistand::nicht_offen) {
+        if (datei.stufe == Dateistufe::oeffnen) {
             if (!liste.aufnehmen(52, name)) return Fehler::gesetzt;
             continue;
         }
-        if (const auto teil = apc_inhalt(datei.abbild.text())) {
+        if (!datei.gut()) return Fehler::gesetzt;
+        if (const auto teil = apc_inhalt(datei.text)) {
             inhalt += *teil;
             continue;
         }

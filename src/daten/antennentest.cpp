@@ -6,7 +6,6 @@
 #include <unordered_set>
 #include <vector>
 
-#include "daten/dateistand.h"
 #include "daten/rinex_abtastung.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
@@ -41,7 +40,7 @@ private:
         return false;
     }
     bool dateien_lesen();
-    std::optional<Abbild> oeffnen(std::string_view kopf, const std::string& pfad);
+    std::optional<std::string> oeffnen(std::string_view kopf, const std::string& pfad);
     bool koordinaten_pruefen();
     void rover_pruefen_einer(int i);
     bool gefunden(const OBS& rover) const;
@@ -61,30 +60,28 @@ private:
     Feld<std::string> m_liste;
 };
 
-std::optional<Abbild> Test::oeffnen(std::string_view kopf, const std::string& pfad)
+std::optional<std::string> Test::oeffnen(std::string_view kopf, const std::string& pfad)
 {
-    if (!m_g->dateien.vorhanden(pfad)) {
-        melden(datei_meldung(kopf, pfad, "konnte nicht gefunden werden!"));
-        return std::nullopt;
-    }
-    std::error_code grund;
-    Abbild abbild = m_g->dateien.abbilden(pfad, grund);
-    if (!grund) return abbild;
-    melden(datei_meldung(kopf, pfad, "konnte nicht richtig gelesen werden!"));
+    Gelesen datei = m_g->dateien.lesen_stufenweise(pfad);
+    if (datei.gut()) return std::move(datei.text);
+    melden(datei_meldung(kopf, pfad,
+                         !m_g->dateien.vorhanden(pfad)           ? "konnte nicht gefunden werden!"
+                         : datei.stufe == Dateistufe::schliessen ? "konnte nicht richtig geschlossen werden!"
+                                                                 : "konnte nicht richtig gelesen werden!"));
     return std::nullopt;
 }
 
 bool Test::dateien_lesen()
 {
     if (!m_atx) {
-        const auto abbild = oeffnen("Die Koordinatendatei:", m_koordinatenpfad);
-        if (!abbild) return false;
-        Zeilenleser zeilen(abbild->text());
+        const auto inhalt = oeffnen("Die Koordinatendatei:", m_koordinatenpfad);
+        if (!inhalt) return false;
+        Zeilenleser zeilen(*inhalt);
         while (const auto zeile = zeilen.naechste()) m_koordinaten.emplace_back(mitte(*zeile, 42, 20));
     }
-    const auto abbild = oeffnen("Die Antennendatei:", m_antennenpfad);
-    if (!abbild) return false;
-    Zeilenleser zeilen(abbild->text());
+    const auto inhalt = oeffnen("Die Antennendatei:", m_antennenpfad);
+    if (!inhalt) return false;
+    Zeilenleser zeilen(*inhalt);
     constexpr int apc_kopfzeilen = 11;
     for (int nummer = 1; const auto zeile = zeilen.naechste(); ++nummer) {
         if (m_atx && ist_kopfzeile(*zeile, "TYPE / SERIAL NO"))
@@ -168,15 +165,18 @@ void Test::rover_pruefen_einer(int i)
 // Puts the protocol on the disk and shows the closing message.
 bool Test::protokoll_schreiben()
 {
-    switch (dateistand(m_g->dateien.schreiben(m_protokollpfad, m_protokoll))) {
-        case Dateistand::gut:
+    const auto gescheitert = [this](std::string_view kopf, std::string_view ende) {
+        return melden(datei_meldung(kopf, m_protokollpfad, ende));
+    };
+    switch (m_g->dateien.schreiben_stufenweise(m_protokollpfad, m_protokoll)) {
+        case Dateistufe::gut:
             break;
-        case Dateistand::nicht_offen:
-            return melden(
-                datei_meldung("Die Kurzprotokolldatei:", m_protokollpfad, u8"konnte nicht geöffnet werden!"_w));
-        case Dateistand::gestoert:
-            return melden(datei_meldung("In die Kurzprotokolldateidatei:", m_protokollpfad,
-                                        "konnte nicht richtig geschrieben werden!"));
+        case Dateistufe::oeffnen:
+            return gescheitert("Die Kurzprotokolldatei:", u8"konnte nicht geöffnet werden!"_w);
+        case Dateistufe::schliessen:
+            return gescheitert("Die Kurzprotokolldatei:", "konnte nicht richtig geschlossen werden!");
+        default:
+            return gescheitert("In die Kurzprotokolldateidatei:", "konnte nicht richtig geschrieben werden!");
     }
     melden("Fehler beim Abgleich der Antennendaten!\n(siehe Kurzprotokolldatei)");
     return true;

@@ -119,7 +119,7 @@ Fehler grafik_grenzen_laden(Global& g)
         if (!g.Lnd.anfuegen(*punkt))
             return nicht_dimensioniert(g, 40, verkettet("    ReDim Lnd(", g.Lnd.anzahl() + 1, ")"));
     }
-    g.Grenzen = "0";
+    g.Grenzen.assign(1, '0');
     return Fehler::keiner;
 }
 

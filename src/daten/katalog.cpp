@@ -116,14 +116,13 @@ Fehler umrechnen(Global& g, TOREL_Punkt_Satz& punkt)
 Fehler katalog_lesen(Global& g)
 {
     const std::string pfad = exe_datei(g, katalog_name);
-    std::error_code grund;
-    const auto inhalt = g.dateien.lesen(pfad, grund);
-    if (!inhalt) return dateistand(grund) == Dateistand::gestoert ? lesefehler(g) : nicht_offen(g);
+    const Gelesen datei = g.dateien.lesen_stufenweise(pfad);
+    if (!datei.gut()) return datei.stufe == Dateistufe::oeffnen ? nicht_offen(g) : lesefehler(g);
     if (!g.TOREL_Punkt.groesse_setzen(1))
         return nicht_dimensioniert(g, 10, "torel_coo_laden", "    ReDim TOREL_Punkt(1)");
     g.TOREL_Punkt.leeren();
 
-    Zeilenleser zeilen(*inhalt);
+    Zeilenleser zeilen(datei.text);
     Kommabereich bereich;
     int nummer = 0;
     while (const auto chiffre = zeilen.naechste()) {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "daten/rinex_abtastung.h"
+#include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "plattform/profil.h"

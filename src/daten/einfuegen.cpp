@@ -12,6 +12,7 @@
 #include "daten/rinex_position.h"
 #include "daten/satelliten.h"
 #include "geo/xyz_nach_utm.h"
+#include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "planung/automatik.h"

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "dos/probe.h"
+#include "plattform/prozess.h"
 #include "plattform/text.h"
 
 namespace jorv::dos::test {
@@ -127,6 +128,41 @@ TEST(Programm, suchpfad_des_rechners)
               "Z:\\usr\\bin;D:\\a b;\"Z:\\x;y\";\"Z:\\r&d\"");
     probe.umfeld.suchpfad = "Z:\\usr\\bin;D:\\a b;;\"Z:\\x;y\"; E:\\ ;";
     EXPECT_EQ(suchpfad_nach_host(probe.umfeld), verkettet("/usr/bin:", d, "/a b:/x;y:", probe.ort("E:\\").string()));
+}
+
+TEST(Programm, jorv_dos_aufruf)
+{
+    struct Fall {
+        std::vector<std::string> worte;
+        int status;
+        std::string_view aus;
+    };
+    Probe probe;
+    probe.batch("zeig.bat", "@echo off\necho %1-%2> aus.txt\ncd>> aus.txt\n");
+    const std::string host = probe.ort("zeig.bat").string();
+    const std::string voll = verkettet("Z:", ersetzt(host, '/', '\\'));
+    const std::string hier = verkettet("Z:", ersetzt(probe.ort("E:\\").string(), '/', '\\'), "\r\n");
+    const Fall faelle[] = {
+        {{host}, 0, "-"},
+        {{voll, "ä b", "c"}, 0, "\x84 b-c"},
+        {{"../d/Prüf a b/zeig.bat", "x"}, 0, "x-"},
+        {{"..\\d\\PRÜF a b\\Zeig.BAT"}, 0, "-"},
+        {{"--frist", "5", host}, 0, "-"},
+        {{"fehlt.bat"}, 1, ""},
+        {{"Q:\\fehlt.bat"}, 1, ""},
+        {{}, 2, ""},
+        {{"--frist", "x", host}, 2, ""},
+        {{"--frist", "0", host}, 2, ""},
+        {{"--anders", host}, 2, ""},
+    };
+    for (const auto& fall : faelle) {
+        std::error_code fehler;
+        fs::remove(probe.ort("E:\\aus.txt"), fehler);
+        const auto ende = jorv::programm_ausfuehren(JORV_PROGRAMME "/jorv-dos", fall.worte, probe.ort("E:\\"), 20);
+        EXPECT_EQ(ende.status, fall.status) << testing::PrintToString(fall.worte);
+        EXPECT_EQ(ende.fehlerausgabe.empty(), fall.status == 0);
+        EXPECT_EQ(probe.inhalt("E:\\aus.txt"), fall.status == 0 ? verkettet(fall.aus, "\r\n", hier) : "");
+    }
 }
 
 }  // namespace

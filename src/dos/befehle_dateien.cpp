@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::string_view nicht_gefunden = u8"Die Datei ist nicht vorhanden"_w;
 constexpr std::string_view falsche_anzahl = u8"Es fehlen Namen, oder es sind zu viele."_w;
+constexpr std::string_view auf_sich_selbst = u8"Eine Datei kann nicht auf sich selbst kopiert werden"_w;
 constexpr char textende = '\x1A';
 
 bool schreibgeschuetzt(const fs::path& ort)
@@ -31,8 +32,7 @@ bool dieselbe_datei(const Umfeld& umfeld, std::string_view a, std::string_view b
 
 bool eine_kopieren(const Umfeld& umfeld, const Stroeme& stroeme, const Fund& quelle, std::string_view ziel)
 {
-    if (dieselbe_datei(umfeld, quelle.pfad, ziel))
-        return melden(stroeme, u8"Eine Datei kann nicht auf sich selbst kopiert werden"_w, quelle.name);
+    if (dieselbe_datei(umfeld, quelle.pfad, ziel)) return melden(stroeme, auf_sich_selbst, quelle.name);
     if (umfeld.dateien.kopieren(quelle.pfad, ziel))
         return melden(stroeme, u8"Die Datei konnte nicht kopiert werden"_w, quelle.name);
     std::error_code fehler;
@@ -45,6 +45,8 @@ bool eine_kopieren(const Umfeld& umfeld, const Stroeme& stroeme, const Fund& que
 bool zusammenfuegen(const Umfeld& umfeld, const Stroeme& stroeme, const std::vector<Fund>& quellen,
                     std::string_view ziel)
 {
+    if (quellen.size() == 1 && dieselbe_datei(umfeld, quellen[0].pfad, ziel))
+        return melden(stroeme, auf_sich_selbst, quellen[0].name);
     std::string text;
     for (const auto& quelle : quellen) {
         if (dieselbe_datei(umfeld, quelle.pfad, ziel)) continue;

@@ -27,6 +27,7 @@ TEST(Ablauf, was_gedruckt_wird)
         {"goto :ende\necho nein\n:ende2\necho nein\n:ende Kommentar\necho ja\n", "ja\r\n"},
         {"goto ENDE\n:ende2\necho nein\n:Ende\necho ja", "ja\r\n"},
         {"goto a\n:b\necho b\ngoto :eof\n:a\necho a\ngoto :b\n", "a\r\nb\r\n"},
+        {":a\nif exist f goto :ende\necho b > f\ngoto a\n:a\necho hinten\n:ende\necho ende", "hinten\r\nende\r\n"},
         {":a\nif exist f goto eof\necho 1 > f\ngoto a\necho nein\n:eof\necho ende", "ende\r\n"},
         {"echo a\ngoto :fehlt\necho nein\n", "a\r\n", 1},
         {"echo a\ngoto :eof\necho nein\n", "a\r\n"},

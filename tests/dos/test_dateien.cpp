@@ -50,6 +50,8 @@ TEST(Dateien, copy)
          "copy *.x alles",
          {"b.x=B\r\n\x1Arest", "A.x=A\r\n", "c.y=C", "alles=A\r\nB\r\n\x1A"}},
         {{"b.x=B"}, "copy *.x c.x\ncopy *.x d.x", {"b.x=B", "c.x=B\x1A", "d.x=BB\x1A"}},
+        {{"b.x=B", "c.x=C"}, "copy *.x c.x", {"b.x=B", "c.x=B\x1A"}},
+        {{"c.x=C"}, "copy *.x c.x", {"c.x=C"}, 1},
         {{"a.x=1", "b.x=2"}, "copy *.x fehlt\\c", {"a.x=1", "b.x=2"}, 1},
     });
 }

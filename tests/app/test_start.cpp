@@ -1,0 +1,111 @@
+#include "app/start.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "hilfen/Projekt.h"
+#include "plattform/profil.h"
+
+namespace jorv {
+
+using hilfen::Arbeitsordner;
+namespace fs = std::filesystem;
+
+namespace {
+
+// A fresh user: the home folder is empty, the program state too.
+struct Benutzer {
+    Benutzer() : uhr({2016, 12, 1, 12, 0, 0}), g(schirm, uhr, Dateisystem())
+    {
+        ::setenv("HOME", heim.host().c_str(), 1);
+        ::unsetenv("XDG_DOCUMENTS_DIR");
+        ::unsetenv("XDG_CONFIG_HOME");
+    }
+    fs::path einstellungen(const std::string& dokumente) const
+    {
+        return heim.host() / dokumente / "Melvikon.kor" / "JorvPlus.INI";
+    }
+
+    Arbeitsordner heim;
+    hilfen::Pruefschirm schirm;
+    Festuhr uhr;
+    Global g;
+};
+
+}  // namespace
+
+TEST(Start, EinNeuerBenutzerBekommtOrdnerUndVorgaben)
+{
+    Benutzer b;
+    ASSERT_FALSE(ist_fehler(start(b.g)));
+    EXPECT_TRUE(fs::is_directory(b.einstellungen("Documents").parent_path()));
+    EXPECT_EQ(b.g.EXE_Verzeichnis, b.g.Programmverzeichnis);
+    EXPECT_EQ(b.g.Datei_Verzeichnis, b.g.Programmverzeichnis);
+    EXPECT_FALSE(ist_fehler(ende(b.g)));
+    EXPECT_TRUE(Profil(hilfen::lesen(b.einstellungen("Documents"))).hat("START", "PKZ"));
+    EXPECT_TRUE(b.schirm.gezeigt.empty()) << b.schirm.einzige();
+}
+
+TEST(Start, DerDokumenteordnerFolgtDemSchreibtisch)
+{
+    Benutzer deutsch;
+    fs::create_directory(deutsch.heim.host() / "Dokumente");
+    ASSERT_FALSE(ist_fehler(start(deutsch.g)));
+    EXPECT_TRUE(fs::exists(deutsch.einstellungen("Dokumente").parent_path()));
+
+    Benutzer eigener;
+    hilfen::schreiben(eigener.heim.host() / ".config" / "user-dirs.dirs", "# x\nXDG_DOCUMENTS_DIR=\"$HOME/Büro\"\n");
+    ASSERT_FALSE(ist_fehler(start(eigener.g)));
+    EXPECT_TRUE(fs::exists(eigener.einstellungen("Büro").parent_path()));
+}
+
+TEST(Start, EinOrdnerDerNichtAnzulegenIstBeendetDenStart)
+{
+    Benutzer b;
+    hilfen::schreiben(b.heim.host() / "Documents", "eine Datei steht im Weg");
+    EXPECT_TRUE(ist_fehler(start(b.g)));
+    EXPECT_EQ(b.schirm.einzige(), "Fehlendes Verzeichnis für die Datei JorvPlus.INI:\n" +
+                                      utf8_aus_1252(Laufwerke().dos(b.heim.host()).value()) +
+                                      "\\Documents\\Melvikon.kor\nkonnte nicht angelegt werden!\n\n"
+                                      "Evtl. fehlender Speicherplatz oder mangelnde Rechte!");
+}
+
+TEST(Start, EineAltedateiImProgrammordnerWirdEinmalUebernommen)
+{
+    Benutzer b;
+    const fs::path alt = programm_ordner() / "JorvPlus.INI";
+    hilfen::schreiben(alt, "[START]\r\nEditor=joe\r\n");
+    ASSERT_FALSE(ist_fehler(start(b.g)));
+    EXPECT_EQ(b.g.Editor, "joe");
+    EXPECT_FALSE(fs::exists(alt));
+}
+
+TEST(Start, EineGenannteEinstellungsdateiGiltAlleinUndNamenAusFremdenSchriftenWerdenAbgelehnt)
+{
+    Benutzer b;
+    const fs::path alt = programm_ordner() / "JorvPlus.INI";
+    hilfen::schreiben(alt, "[START]\r\nEditor=joe\r\n");
+    const std::string datei = b.heim.dos() + "\\neu\\eigene.ini";
+    ASSERT_FALSE(ist_fehler(start(b.g, {datei})));
+    EXPECT_EQ(b.g.Einstellungsdatei, datei);
+    EXPECT_EQ(b.g.Editor, "Notepad.exe");
+    EXPECT_TRUE(fs::remove(alt));
+
+    Benutzer fremd;
+    ::setenv("HOME", (fremd.heim.host() / "\xE4\xB8\xAD").c_str(), 1);
+    EXPECT_TRUE(ist_fehler(start(fremd.g)));
+    EXPECT_NE(fremd.schirm.einzige().find("kann in JorvPlus nicht verwendet werden (Zeichen im Namen)!"),
+              std::string::npos);
+}
+
+TEST(Start, EinAbgestuerztesProgrammHinterlaesstNichts)
+{
+    Benutzer b;
+    const fs::path rest = b.einstellungen("Documents").parent_path() / ".JorvPlus.INI.jorv-999999999-0";
+    hilfen::schreiben(rest, "halb");
+    ASSERT_FALSE(ist_fehler(start(b.g)));
+    EXPECT_FALSE(fs::exists(rest));
+}
+
+}  // namespace jorv

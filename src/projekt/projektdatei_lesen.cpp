@@ -9,7 +9,7 @@
 #include "plattform/zahl.h"
 #include "projekt/geo_lesen.h"
 #include "projekt/reihe.h"
-#include "projekt/verfahren.h"
+#include "projekt/titel.h"
 #include "projekt/verfahrensliste.h"
 
 namespace jorv {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
@@ -31,8 +32,16 @@ public:
         m_zeile += text;
         return *this;
     }
-    Wortreihe& name(std::string_view text) { return wort(als_wort(text)); }
-    Wortreihe& ganz(long long wert) { return wort(verkettet(wert)); }
+    Wortreihe& name(std::string_view text)
+    {
+        return text.find(' ') == std::string_view::npos ? wort(text) : wort(als_wort(text));
+    }
+    Wortreihe& ganz(std::int32_t wert)
+    {
+        std::array<char, 12> ziffern;
+        const auto ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert).ptr;
+        return wort({ziffern.data(), static_cast<std::size_t>(ende - ziffern.data())});
+    }
     std::string fertig() { return std::move(m_zeile); }
 
 private:

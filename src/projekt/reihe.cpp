@@ -1,6 +1,7 @@
 #include "projekt/reihe.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -10,6 +11,20 @@
 #include "plattform/zahl.h"
 
 namespace jorv {
+
+namespace {
+
+// Nearly all words are plain digits; whatever else there is goes through the number parser.
+template <typename T>
+std::optional<T> ganz_lesen(std::string_view wort, std::optional<T> (*runden)(double))
+{
+    T wert = 0;
+    const auto [ende, fehler] = std::from_chars(wort.data(), wort.data() + wort.size(), wert);
+    if (fehler == std::errc{} && ende == wort.data() + wort.size()) return wert;
+    return runden(zahl_lesen(wort));
+}
+
+}  // namespace
 
 Reihe& Reihe::fehler(std::string_view feldwort)
 {
@@ -42,7 +57,9 @@ Reihe& Reihe::wandeln(T& ziel, const Feldwort& wort, Umwandlung umwandlung)
 
 Reihe& Reihe::text(std::string& ziel, Feldwort wort)
 {
-    return wandeln(ziel, wort, [](std::string_view t) { return std::optional<std::string>(t); });
+    std::string_view text;
+    if (naechstes(text, wort)) ziel = text;
+    return *this;
 }
 
 Reihe& Reihe::zahl(double& ziel, Feldwort wort)
@@ -55,12 +72,12 @@ Reihe& Reihe::zahl(double& ziel, Feldwort wort)
 
 Reihe& Reihe::ganz(std::int16_t& ziel, Feldwort wort)
 {
-    return wandeln(ziel, wort, [](std::string_view t) { return ganz16(zahl_lesen(t)); });
+    return wandeln(ziel, wort, [](std::string_view t) { return ganz_lesen<std::int16_t>(t, ganz16); });
 }
 
 Reihe& Reihe::ganz(std::int32_t& ziel, Feldwort wort)
 {
-    return wandeln(ziel, wort, [](std::string_view t) { return ganz32(zahl_lesen(t)); });
+    return wandeln(ziel, wort, [](std::string_view t) { return ganz_lesen<std::int32_t>(t, ganz32); });
 }
 
 Reihe& Reihe::ganz(std::uint8_t& ziel, Feldwort wort)
@@ -96,13 +113,15 @@ void wachstum_melden(Global& g, const Sektionsart& art, int neu)
                                                art.luecke_weitere));
 }
 
-std::string reihe_holen(const Profil& profil, const Sektionsart& art, int n)
+std::string_view Reihenquelle::holen(int n, std::string& puffer) const
 {
     const std::string schluessel = verkettet(n);
-    std::string zeile(art.ganze_werte ? profil.wert_ganz(art.sektion, schluessel)
-                                      : profil.wert(art.sektion, schluessel));
-    if (art.komma_zu_punkt) std::replace(zeile.begin(), zeile.end(), ',', '.');
-    return zeile;
+    const std::string_view zeile =
+        m_art.ganze_werte ? m_profil.wert_ganz(m_art.sektion, schluessel) : m_profil.wert(m_art.sektion, schluessel);
+    if (!m_art.komma_zu_punkt || zeile.find(',') == std::string_view::npos) return zeile;
+    puffer = zeile;
+    std::replace(puffer.begin(), puffer.end(), ',', '.');
+    return puffer;
 }
 
 std::string als_wort(std::string_view text)

@@ -67,11 +67,20 @@ struct Sektionsart {
 /// The message of an array that can't be reset (neu 0) or grow to `neu` elements.
 void wachstum_melden(Global& g, const Sektionsart& art, int neu);
 
-/// The trimmed value of row n, commas turned where the section wants it; empty behind the last row.
-std::string reihe_holen(const Profil& profil, const Sektionsart& art, int n);
+/// The rows of a section, one after the other.
+class Reihenquelle {
+public:
+    Reihenquelle(const Profil& profil, const Sektionsart& art) : m_profil(profil), m_art(art) {}
+    /// The trimmed value of row n, commas turned (in the buffer) where the section wants it; empty behind the last row.
+    std::string_view holen(int n, std::string& puffer) const;
+
+private:
+    const Profil& m_profil;
+    const Sektionsart& m_art;
+};
 
 /// Empties the array and reads rows 1, 2, ... up to the first empty value. `satz_lesen(Reihe&, T&, zeile)` fills a
-/// record; only a good row is appended. `gescheitert(neu)` words the message of an array that can't grow.
+/// record; only a good row counts. `gescheitert(neu)` words the message of an array that can't grow.
 template <typename T, typename Lesen, typename Gescheitert>
 Fehler sektion_lesen(Global& g, const Profil& profil, const Sektionsart& art, Feld<T>& feld, Lesen satz_lesen,
                      Gescheitert gescheitert)
@@ -80,17 +89,23 @@ Fehler sektion_lesen(Global& g, const Profil& profil, const Sektionsart& art, Fe
         wachstum_melden(g, art, 0);
         return Fehler::gesetzt;
     }
+    const Reihenquelle quelle(profil, art);
+    std::string puffer;
     for (int n = 1;; ++n) {
-        const std::string zeile = reihe_holen(profil, art, n);
+        const std::string_view zeile = quelle.holen(n, puffer);
         if (zeile.empty()) return Fehler::keiner;
+        // A record may be large: it is filled where it stays, and taken back when its row is bad.
         Reihe reihe(g, zeile);
-        T satz{};
-        satz_lesen(reihe, satz, std::string_view(zeile));
-        if (!reihe.gut()) return Fehler::gesetzt;
-        if (!feld.anfuegen(std::move(satz))) {
-            gescheitert(n);
+        if (!feld.anfuegen()) {
+            T ersatz{};
+            satz_lesen(reihe, ersatz, zeile);
+            if (reihe.gut()) gescheitert(n);
             return Fehler::gesetzt;
         }
+        satz_lesen(reihe, feld.letztes(), zeile);
+        if (reihe.gut()) continue;
+        (void)feld.groesse_setzen(n - 1);
+        return Fehler::gesetzt;
     }
 }
 

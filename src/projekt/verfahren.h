@@ -7,14 +7,9 @@
 #include "modell/Global.h"
 #include "plattform/fehler.h"
 #include "plattform/oberflaeche.h"
+#include "projekt/titel.h"
 
 namespace jorv {
-
-/// The window's title, with and without an open project.
-std::string Titel(const Global& g);
-
-/// The logo of region and mode in the directory of the programs; shown beside the title.
-std::string Logo_Datei(const Global& g);
 
 /// Asks for name, directory and mode until a project has been made or the user cancels.
 Fehler m_datei_neu(Global& g);

@@ -1,0 +1,16 @@
+// What the window says of the open project beside its content: title and logo.
+#pragma once
+
+#include <string>
+
+#include "modell/Global.h"
+
+namespace jorv {
+
+/// The window's title, with and without an open project.
+std::string Titel(const Global& g);
+
+/// The logo of region and mode in the directory of the programs; shown beside the title.
+std::string Logo_Datei(const Global& g);
+
+}  // namespace jorv

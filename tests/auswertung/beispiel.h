@@ -18,7 +18,7 @@ inline void rover_anfuegen(Global& g, const std::string& name)
     OBS beobachtung;
     beobachtung.Dateiname = name;
     beobachtung.Punktkennzeichen = name.substr(0, 4);
-    beobachtung.Antenne = "TRM22020.00+GP  NONE00220020            ";
+    beobachtung.Antenne = "00220020            TRM22020.00+GP  NONE";
     (void)g.OBS_R.anfuegen(beobachtung);
     (void)g.R_Punkt.anfuegen();
     ROVER_TOREL_Satz zuordnung;
@@ -57,6 +57,7 @@ public:
             tafel.schreiben = schreiben;
             tafel.lesen = lesen;
             tafel.loeschen = loeschen;
+            tafel.umbenennen = umbenennen;
             return tafel;
         }();
         m_g.dateien = Dateisystem(g.dateien.laufwerke(), kaputt);
@@ -67,11 +68,13 @@ public:
     {
         m_g.dateien = Dateisystem(m_g.dateien.laufwerke());
         schreiben_bei = lesen_bei = 0;
+        umbenennen_luegt = false;
         loeschen_endung.clear();
     }
-    static inline int schreiben_bei = 0;        ///< this write from now on finds a full disk
-    static inline int lesen_bei = 0;            ///< this read from now on finds a bad block
-    static inline std::string loeschen_endung;  ///< files whose path ends so can't be deleted
+    static inline int schreiben_bei = 0;          ///< this write from now on finds a full disk
+    static inline int lesen_bei = 0;              ///< this read from now on finds a bad block
+    static inline bool umbenennen_luegt = false;  ///< a rename reports success and does nothing
+    static inline std::string loeschen_endung;    ///< files whose path ends so can't be deleted
 
 private:
     static bool jetzt(int& zaehler) { return zaehler > 0 && --zaehler == 0; }
@@ -93,6 +96,10 @@ private:
             return Systemaufrufe::echte().loeschen(pfad);
         errno = EACCES;
         return -1;
+    }
+    static int umbenennen(const char* alt, const char* neu)
+    {
+        return umbenennen_luegt ? Systemaufrufe::echte().loeschen(alt) : Systemaufrufe::echte().umbenennen(alt, neu);
     }
     Global& m_g;
 };

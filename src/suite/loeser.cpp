@@ -144,6 +144,7 @@ std::string optionsdatei(const Loeserauftrag& auftrag, Laufart art)
     o.setzen("pos1-ionoopt", w.ionosphaere ? "est-stec" : "brdc");
     o.setzen("pos1-tropopt", w.ionosphaere && auftrag.zenit_schaetzen ? "est-ztd" : "saas");
     o.setzen("pos1-sateph", "brdc");
+    o.setzen("pos1-posopt2", "on");  // without it the elevation dependent part of the antennas is left out
     o.setzen("pos1-navsys", 1);
     std::string ohne;
     for (const std::string& satellit : auftrag.ohne_satelliten) ohne.append(ohne.empty() ? "" : " ").append(satellit);

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "plattform/kalender.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
 #include "suite/spalten.h"
@@ -28,13 +27,6 @@ Matrix kovarianz(const Ergebnis& e)
 double korrelation(double wurzel, double a, double b)
 {
     return a > 0 && b > 0 ? std::clamp(wurzel * std::abs(wurzel) / (a * b), -1.0, 1.0) : 0.0;
-}
-
-std::string zeitpunkt(const GpsZeit& zeit)
-{
-    const Kalenderzeit k = kalenderzeit(zeit);
-    const Zeitpunkt z{k.jahr, k.monat, k.tag, k.stunde, k.minute, static_cast<int>(k.sekunde)};
-    return verkettet(tag_text(z), " ", uhrzeit_text(z));
 }
 
 // A name of the left column and the values behind it.
@@ -78,7 +70,7 @@ std::string ergebnistext(const Ergebnis& e)
     const Xyz d = e.basislinie();
     std::string text = zeile("Basis", {e.basis_datei});
     text += zeile("Rover", {e.rover_datei, e.rover_marke});
-    text += zeile("Zeitraum (GPS)", {zeitpunkt(e.beginn), zeitpunkt(e.ende)});
+    text += zeile("Zeitraum (GPS)", {zeittext(e.beginn), zeittext(e.ende)});
     text += zeile(u8"Lösungstyp"_w, {e.loesungstyp});
     text += zeile("Basis X Y Z [m]", {fest(e.basis.x, 4), fest(e.basis.y, 4), fest(e.basis.z, 4)});
     text += zeile("Rover X Y Z [m]", {fest(e.rover.x, 4), fest(e.rover.y, 4), fest(e.rover.z, 4)});
@@ -128,9 +120,9 @@ std::string loesungstext(const Ergebnis& e)
         {"sh", e.sigma_enu.u},
         {"beginn", static_cast<double>(e.beginn.sekunde) + e.beginn.bruch},
         {"ende", static_cast<double>(e.ende.sekunde) + e.ende.bruch},
-        {"doy", tag_im_jahr(e.beginn)},
-        {"woche", woche(e.beginn)},
-        {"wochentag", wochentag(e.beginn)},
+        {"doy", tag_im_jahr(auf_sekunde(e.beginn))},
+        {"woche", woche(auf_sekunde(e.beginn))},
+        {"wochentag", wochentag(auf_sekunde(e.beginn))},
         {"minuten", e.minuten},
         {"zone", e.zone},
         {"sigma0", e.sigma0},
@@ -157,7 +149,7 @@ std::string basislinientext(const Ergebnis& e)
         return zeile(name, {fest(a, stellen), fest(b, stellen), fest(g, stellen)});
     };
     std::string text = zeile("BASISLINIE", {e.basis_datei, e.rover_datei});
-    text += zeile("ZEITRAUM", {zeitpunkt(e.beginn), zeitpunkt(e.ende)});
+    text += zeile("ZEITRAUM", {zeittext(e.beginn), zeittext(e.ende)});
     text += zeile("TYP", {e.loesungstyp});
     text += drei("VON", e.basis.x, e.basis.y, e.basis.z, 4);
     text += drei("NACH", e.rover.x, e.rover.y, e.rover.z, 4);

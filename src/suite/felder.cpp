@@ -46,15 +46,15 @@ std::string koordinaten(const Ergebnis& e)
 
 std::string tag(const Ergebnis& e, bool hinter_sigma)
 {
-    const std::string nummer = verkettet(tag_im_jahr(e.beginn));
+    const std::string nummer = verkettet(tag_im_jahr(auf_sekunde(e.beginn)));
     if (!hinter_sigma) return std::string(3 - std::min<std::size_t>(3, nummer.size()), '0') + nummer;
-    const std::string woche_und_tag = verkettet(woche(e.beginn), "/", wochentag(e.beginn));
+    const std::string woche_und_tag = verkettet(woche(auf_sekunde(e.beginn)), "/", wochentag(auf_sekunde(e.beginn)));
     return std::string(6 - std::min<std::size_t>(6, woche_und_tag.size()), ' ') + woche_und_tag;
 }
 
 std::string uhrzeit(const GpsZeit& zeit)
 {
-    const Kalenderzeit k = kalenderzeit(zeit);
+    const Kalenderzeit k = kalenderzeit(auf_sekunde(zeit));
     const int zahl = 10000 + k.stunde * 100 + k.minute;
     return verkettet(zahl).substr(1);
 }

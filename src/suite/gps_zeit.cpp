@@ -1,6 +1,7 @@
 #include "suite/gps_zeit.h"
 
 #include "plattform/kalender.h"
+#include "plattform/text.h"
 
 namespace jorv::suite {
 
@@ -29,6 +30,12 @@ Kalenderzeit kalenderzeit(const GpsZeit& zeit)
 {
     const Zeitpunkt z = zeitpunkt_aus_sekunden(zeit.sekunde + ANFANG * 86400);
     return {z.jahr, z.monat, z.tag, z.stunde, z.minute, z.sekunde + zeit.bruch};
+}
+
+std::string zeittext(const GpsZeit& zeit)
+{
+    const Zeitpunkt z = zeitpunkt_aus_sekunden(auf_sekunde(zeit).sekunde + ANFANG * 86400);
+    return verkettet(tag_text(z), " ", uhrzeit_text(z));
 }
 
 int tag_im_jahr(const GpsZeit& zeit)

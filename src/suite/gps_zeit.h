@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace jorv::suite {
 
@@ -31,6 +32,15 @@ inline GpsZeit verschoben(const GpsZeit& zeit, double sekunden)
     const double ganz = std::floor(sekunden + zeit.bruch);
     return {zeit.sekunde + static_cast<std::int64_t>(ganz), sekunden + zeit.bruch - ganz};
 }
+
+/// Rounded to the full second: time tags lie some milliseconds beside it, also on the other side of midnight.
+inline GpsZeit auf_sekunde(const GpsZeit& zeit)
+{
+    return {verschoben(zeit, 0.5).sekunde, 0.0};
+}
+
+/// "dd.mm.yyyy hh:mm:ss", rounded to the full second.
+std::string zeittext(const GpsZeit& zeit);
 
 /// Full year of a two-digit one (80-99 and 00-79), other years unchanged.
 inline int volles_jahr(int jahr)

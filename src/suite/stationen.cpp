@@ -9,6 +9,7 @@ namespace jorv::suite {
 namespace {
 
 constexpr double TAG = 86400.0;
+constexpr double UNGENAU = 0.1;  // s by which time tags may lie beside the full second
 
 std::string zweistellig(int zahl)
 {
@@ -36,7 +37,7 @@ void anfuegen(RinexBeobachtung& ziel, const RinexBeobachtung& teil)
 
 void beschneiden(RinexBeobachtung& b, const Zeitspanne& spanne)
 {
-    const double rand = std::max(1.0, b.intervall());
+    const double rand = std::max(1.0, b.intervall()) + UNGENAU;
     std::erase_if(b.epochen, [&](const Epoche& e) {
         return abstand(e.zeit, spanne.von) < -rand || abstand(e.zeit, spanne.bis) > rand;
     });
@@ -44,7 +45,7 @@ void beschneiden(RinexBeobachtung& b, const Zeitspanne& spanne)
 
 bool deckt(const RinexBeobachtung& b, const Zeitspanne& spanne)
 {
-    const double rand = std::max(1.0, b.intervall());
+    const double rand = std::max(1.0, b.intervall()) + UNGENAU;
     return !b.epochen.empty() && abstand(b.epochen.front().zeit, spanne.von) <= rand &&
            abstand(spanne.bis, b.epochen.back().zeit) <= rand;
 }

@@ -31,13 +31,6 @@ struct Statistik {
     double groesste = 0.0, kleinste = 0.0;
 };
 
-std::string zeit_text(const GpsZeit& zeit)
-{
-    const Kalenderzeit k = kalenderzeit(zeit);
-    const Zeitpunkt z{k.jahr, k.monat, k.tag, k.stunde, k.minute, static_cast<int>(k.sekunde)};
-    return verkettet(tag_text(z), " ", uhrzeit_text(z));
-}
-
 GpsZeit tageszeit(const GpsZeit& tag, int hhmmss)
 {
     const int sekunde = hhmmss / 10000 * 3600 + hhmmss / 100 % 100 * 60 + hhmmss % 100;
@@ -132,7 +125,7 @@ bool Lauf::rover_lesen()
     m_spanne = *spanne;
     m_protokoll.zeile(verkettet("Rover            ", m_aufruf.rover));
     m_protokoll.zeile(
-        verkettet("  Zeitraum       ", zeit_text(m_spanne.von), " bis ", zeit_text(m_spanne.bis), " (GPS)"));
+        verkettet("  Zeitraum       ", zeittext(m_spanne.von), " bis ", zeittext(m_spanne.bis), " (GPS)"));
     m_protokoll.zeile(
         verkettet("  Ort XYZ        ", fest(m_virtuell.x, 4), " ", fest(m_virtuell.y, 4), " ", fest(m_virtuell.z, 4)));
     return true;

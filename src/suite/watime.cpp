@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "plattform/kalender.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
 #include "suite/gps_zeit.h"
@@ -47,12 +46,9 @@ std::optional<std::string> watime(const Worte& worte)
     if (worte.size() == 1) zeit = aus_woche(worte[0]);
     if (worte.size() == 6) zeit = aus_datum(worte);
     if (!zeit) return {};
-    const Kalenderzeit k = kalenderzeit(*zeit);
-    const Zeitpunkt z{k.jahr, k.monat, k.tag, k.stunde, k.minute, static_cast<int>(k.sekunde)};
     const std::int64_t hundertstel = zeit->sekunde % 86400 * 100 / 86400;
-    return verkettet(tag_text(z), " ", uhrzeit_text(z), " ", gefuellt(tag_im_jahr(*zeit), 3), ".",
-                     gefuellt(hundertstel, 2), " ", gefuellt(woche(*zeit), 4), "/", wochentag(*zeit), " ",
-                     gefuellt(zeit->sekunde % 604800, 6));
+    return verkettet(zeittext(*zeit), " ", gefuellt(tag_im_jahr(*zeit), 3), ".", gefuellt(hundertstel, 2), " ",
+                     gefuellt(woche(*zeit), 4), "/", wochentag(*zeit), " ", gefuellt(zeit->sekunde % 604800, 6));
 }
 
 }  // namespace jorv::suite

@@ -6,6 +6,53 @@
 
 namespace jorv {
 
+namespace {
+
+// The number of a key that is written as a row's index, 0 for any other.
+std::size_t reihe(std::string_view schluessel)
+{
+    if (schluessel.empty() || schluessel.size() > 9 || schluessel.front() == '0') return 0;
+    std::size_t n = 0;
+    for (const char z : schluessel) {
+        if (z < '0' || z > '9') return 0;
+        n = n * 10 + static_cast<std::size_t>(z - '0');
+    }
+    return n;
+}
+
+}  // namespace
+
+std::size_t Profil::Stellen::finden(std::string_view schluessel) const
+{
+    const auto knapp = trimmen(schluessel);
+    if (const std::size_t n = reihe(knapp); n != 0 && n <= m_reihen.size()) return m_reihen[n - 1];
+    if (m_namen.empty()) return keine;
+    const auto fund = m_namen.find(klein(knapp));
+    return fund == m_namen.end() ? keine : fund->second;
+}
+
+void Profil::Stellen::eintragen(std::string_view schluessel, std::size_t stelle)
+{
+    if (finden(schluessel) != keine) return;
+    const auto knapp = trimmen(schluessel);
+    const std::size_t n = reihe(knapp);
+    if (n != 0 && n <= m_reihen.size())
+        m_reihen[n - 1] = stelle;
+    else if (n == m_reihen.size() + 1)
+        m_reihen.push_back(stelle);
+    else
+        m_namen.emplace(klein(knapp), stelle);
+}
+
+void Profil::Stellen::entfernen(std::string_view schluessel)
+{
+    const auto knapp = trimmen(schluessel);
+    if (const std::size_t n = reihe(knapp); n != 0 && n <= m_reihen.size())
+        m_reihen[n - 1] = keine;
+    else
+        m_namen.erase(klein(knapp));
+}
+
 Profil::Profil(std::string_view text)
 {
     m_sektionen.emplace_back();
@@ -27,7 +74,7 @@ Profil::Profil(std::string_view text)
         if (gleich != std::string_view::npos && !knapp.starts_with(';')) {
             neu.ist_wert = true;
             neu.schluessel_laenge = gleich;
-            sektion.stellen.try_emplace(klein(trimmen(zeile->substr(0, gleich))), sektion.zeilen.size());
+            sektion.stellen.eintragen(zeile->substr(0, gleich), sektion.zeilen.size());
         }
         sektion.zeilen.push_back(std::move(neu));
     }
@@ -56,8 +103,8 @@ const Profil::Zeile* Profil::finden(std::string_view sektion, std::string_view s
 {
     const Sektion* s = sektion_finden(sektion);
     if (!s) return nullptr;
-    const auto fund = s->stellen.find(klein(trimmen(schluessel)));
-    return fund == s->stellen.end() ? nullptr : &s->zeilen[fund->second];
+    const std::size_t stelle = s->stellen.finden(schluessel);
+    return stelle == Stellen::keine ? nullptr : &s->zeilen[stelle];
 }
 
 std::string_view Profil::wert_ganz(std::string_view sektion, std::string_view schluessel) const
@@ -101,16 +148,15 @@ void Profil::setzen(std::string_view sektion, std::string_view schluessel, std::
         s = &m_sektionen.emplace_back();
         s->kopf = verkettet("[", sektion, "]");
     }
-    const auto [fund, neu] = s->stellen.try_emplace(klein(trimmen(schluessel)), s->zeilen.size());
-    if (!neu) {
-        Zeile& zeile = s->zeilen[fund->second];
+    if (const std::size_t vorhanden = s->stellen.finden(schluessel); vorhanden != Stellen::keine) {
+        Zeile& zeile = s->zeilen[vorhanden];
         zeile.text.replace(zeile.schluessel_laenge + 1, std::string::npos, wert);
         return;
     }
     // Behind the last line that isn't blank, so that the space between sections stays.
     std::size_t stelle = s->zeilen.size();
     while (stelle > 0 && trimmen(s->zeilen[stelle - 1].text).empty() && !s->zeilen[stelle - 1].entfernt) --stelle;
-    fund->second = stelle;
+    s->stellen.eintragen(schluessel, stelle);
     s->zeilen.insert(s->zeilen.begin() + static_cast<std::ptrdiff_t>(stelle),
                      Zeile{verkettet(schluessel, "=", wert), schluessel.size(), true, false});
 }
@@ -119,11 +165,11 @@ void Profil::entfernen(std::string_view sektion, std::string_view schluessel)
 {
     Sektion* s = sektion_finden(sektion);
     if (!s) return;
-    const auto fund = s->stellen.find(klein(trimmen(schluessel)));
-    if (fund == s->stellen.end()) return;
+    const std::size_t stelle = s->stellen.finden(schluessel);
+    if (stelle == Stellen::keine) return;
     // The line keeps its place, so that the index of the others stays right.
-    s->zeilen[fund->second] = Zeile{"", 0, false, true};
-    s->stellen.erase(fund);
+    s->zeilen[stelle] = Zeile{"", 0, false, true};
+    s->stellen.entfernen(schluessel);
 }
 
 std::string Profil::text() const

@@ -45,10 +45,23 @@ private:
         bool ist_wert = false;
         bool entfernt = false;
     };
+    // Places of the keys of a section. Sections of many rows have the keys 1, 2, 3, ...: those are found by counting.
+    class Stellen {
+    public:
+        static constexpr std::size_t keine = static_cast<std::size_t>(-1);
+        std::size_t finden(std::string_view schluessel) const;
+        /// The first place of a key counts; a later one changes nothing.
+        void eintragen(std::string_view schluessel, std::size_t stelle);
+        void entfernen(std::string_view schluessel);
+
+    private:
+        std::vector<std::size_t> m_reihen;
+        std::unordered_map<std::string, std::size_t> m_namen;  // lower-cased
+    };
     struct Sektion {
         std::string kopf;  // the "[...]" line; empty for what stands before the first section
         std::vector<Zeile> zeilen;
-        std::unordered_map<std::string, std::size_t> stellen;
+        Stellen stellen;
     };
     const Zeile* finden(std::string_view sektion, std::string_view schluessel) const;
     Sektion* sektion_finden(std::string_view name);

@@ -37,4 +37,24 @@ TEST(Profil, WerteWerdenBei254ZeichenGeschnitten)
     EXPECT_EQ(Profil(p.text()).wert_ganz("S", "k"), lang);
 }
 
+TEST(Profil, ZeilennummernWerdenInJederReihenfolgeUndNachDemEntfernenGefunden)
+{
+    Profil p("[A]\r\n2=zwei\r\n1=eins\r\n03=null drei\r\n3=drei\r\n2=spaet\r\n 4 = vier\r\n");
+    EXPECT_EQ(p.wert("A", "2"), "zwei");
+    EXPECT_EQ(p.wert("A", "3"), "drei");
+    EXPECT_EQ(p.wert("A", "03"), "null drei");
+    EXPECT_EQ(p.wert("A", "4"), "vier");
+    EXPECT_FALSE(p.hat("A", "5"));
+    EXPECT_FALSE(p.hat("A", "0"));
+    for (const char* n : {"1", "2", "4"}) {
+        p.entfernen("A", n);
+        EXPECT_FALSE(p.hat("A", n));
+        p.setzen("A", n, "neu");
+        EXPECT_EQ(p.wert("A", n), "neu");
+    }
+    for (int n = 5; n < 30; ++n) p.setzen("A", std::to_string(n), std::to_string(n * n));
+    for (int n = 5; n < 30; ++n) EXPECT_EQ(p.wert("A", std::to_string(n)), std::to_string(n * n));
+    EXPECT_EQ(p.wert("A", "3"), "drei");
+}
+
 }  // namespace jorv

@@ -183,8 +183,9 @@ std::int32_t typen_lesen(std::string_view zeile)
 
 Epochen epochen_abtasten(Zeilenstrom& strom, std::int32_t typen)
 {
-    // Rounded down also for a negative count, which then means no data lines at all.
-    const std::int64_t je_satellit = typen >= -4 ? (std::int64_t{typen} + 4) / 5 : 0;
+    // Rounded down, also for a negative count.
+    const std::int64_t vier_mehr = std::int64_t{typen} + 4;
+    const std::int64_t je_satellit = vier_mehr >= 0 ? vier_mehr / 5 : -((4 - vier_mehr) / 5);
     Endzeitgang endzeit(je_satellit);
     Satellitengang satelliten(je_satellit);
     while (const auto zeile = strom.naechste()) {

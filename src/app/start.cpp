@@ -73,7 +73,9 @@ Fehler einstellungen_finden(Global& g, const Startwahl& wahl)
 
 Fehler start(Global& g, const Startwahl& wahl)
 {
-    if (ist_fehler(dos_ordner(g, programm_ordner(), g.Programmverzeichnis))) return Fehler::gesetzt;
+    g.Programmverzeichnis = wahl.programmverzeichnis;
+    if (g.Programmverzeichnis.empty() && ist_fehler(dos_ordner(g, programm_ordner(), g.Programmverzeichnis)))
+        return Fehler::gesetzt;
     g.Datei_Verzeichnis = g.Programmverzeichnis;
     fenster_vorgaben(g);
     if (ist_fehler(all_ini(g))) return Fehler::gesetzt;

@@ -12,6 +12,8 @@ struct Startwahl {
     /// A settings file in place of the one in the documents folder (DOS path); older settings files are then not taken
     /// over.
     std::string einstellungen;
+    /// The folder that counts as the program's (DOS path); empty: that of the running program.
+    std::string programmverzeichnis;
 };
 
 /// Defaults, settings folder, takeover of older settings files, settings, coordinate system: in this order, up to the

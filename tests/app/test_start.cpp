@@ -74,9 +74,10 @@ TEST(Start, EinOrdnerDerNichtAnzulegenIstBeendetDenStart)
 TEST(Start, EineAltedateiImProgrammordnerWirdEinmalUebernommen)
 {
     Benutzer b;
-    const fs::path alt = programm_ordner() / "JorvPlus.INI";
+    const Arbeitsordner programm;
+    const fs::path alt = programm.host() / "JorvPlus.INI";
     hilfen::schreiben(alt, "[START]\r\nEditor=joe\r\n");
-    ASSERT_FALSE(ist_fehler(start(b.g)));
+    ASSERT_FALSE(ist_fehler(start(b.g, {"", programm.dos()})));
     EXPECT_EQ(b.g.Editor, "joe");
     EXPECT_FALSE(fs::exists(alt));
 }
@@ -84,13 +85,14 @@ TEST(Start, EineAltedateiImProgrammordnerWirdEinmalUebernommen)
 TEST(Start, EineGenannteEinstellungsdateiGiltAlleinUndNamenAusFremdenSchriftenWerdenAbgelehnt)
 {
     Benutzer b;
-    const fs::path alt = programm_ordner() / "JorvPlus.INI";
+    const Arbeitsordner programm;
+    const fs::path alt = programm.host() / "JorvPlus.INI";
     hilfen::schreiben(alt, "[START]\r\nEditor=joe\r\n");
     const std::string datei = b.heim.dos() + "\\neu\\eigene.ini";
-    ASSERT_FALSE(ist_fehler(start(b.g, {datei})));
+    ASSERT_FALSE(ist_fehler(start(b.g, {datei, programm.dos()})));
     EXPECT_EQ(b.g.Einstellungsdatei, datei);
     EXPECT_EQ(b.g.Editor, "Notepad.exe");
-    EXPECT_TRUE(fs::remove(alt));
+    EXPECT_TRUE(fs::exists(alt));
 
     Benutzer fremd;
     ::setenv("HOME", (fremd.heim.host() / "\xE4\xB8\xAD").c_str(), 1);

@@ -41,8 +41,12 @@ void programm(const fs::path& datei, std::string_view skript)
 TEST(LaufMitInterpreter, der_batch_legt_jede_datei_an_ihren_platz)
 {
     const std::string alter_pfad = std::getenv("PATH");
-    ::setenv("PATH", (std::string(JORV_PROGRAMME) + ":" + alter_pfad).c_str(), 1);
     Beispiel b({"5501092a.05o", "5502092a.05o"});
+    // The interpreter alone is in reach: the suite beside it would be found before the stand-ins.
+    const fs::path nur_interpreter = b.ordner.wurzel() / "bin";
+    fs::create_directories(nur_interpreter);
+    fs::create_symlink(fs::path(JORV_PROGRAMME) / "jorv-dos", nur_interpreter / "jorv-dos");
+    ::setenv("PATH", (nur_interpreter.string() + ":" + alter_pfad).c_str(), 1);
     const fs::path verzeichnis = b.ordner.wurzel() / "Büro Süd Nr. 5", suite = b.ordner.wurzel() / "Süite neu";
     fs::create_directories(verzeichnis);
     b.g.Arbeitsverzeichnis = Laufwerke().dos(verzeichnis).value();

@@ -32,10 +32,11 @@ public:
     ~Pruefschirm() override
     {
         const char* ordner = std::getenv("JORV_MELDUNGEN");
-        if (!ordner || gezeigt.empty()) return;
+        if (!ordner || (gezeigt.empty() && fortschritt.empty())) return;
         std::ofstream datei(std::string(ordner) + "/" + std::to_string(prozess_kennung()),
                             std::ios::app | std::ios::binary);
         for (const auto& g : gezeigt) datei << g.text << '\n';
+        for (const auto& text : fortschritt) datei << text << '\n';
     }
 
     using Oberflaeche::frage;

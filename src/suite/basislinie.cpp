@@ -17,11 +17,12 @@ namespace jorv::suite {
 namespace {
 
 constexpr std::string_view PROGRAMM = "wa2 1.0";
-constexpr double GLEICHZEITIG = 0.1;         // s between the tags of a common epoch
-constexpr double ZENIT_LAENGE = 10000.0;     // metres
-constexpr double ZENIT_HOEHE = 100.0;        // metres
-constexpr int ZONE_WEIT = 6;                 // degrees from the central meridian
-constexpr double SEKUNDEN_JE_EPOCHE = 0.05;  // time limit of the solver, far above what it needs
+constexpr std::string_view LOESERVERSION = "2.4.3";  // the one whose option words and columns are known
+constexpr double GLEICHZEITIG = 0.1;                 // s between the tags of a common epoch
+constexpr double ZENIT_LAENGE = 10000.0;             // metres
+constexpr double ZENIT_HOEHE = 100.0;                // metres
+constexpr int ZONE_WEIT = 6;                         // degrees from the central meridian
+constexpr double SEKUNDEN_JE_EPOCHE = 0.05;          // time limit of the solver, far above what it needs
 constexpr int SEKUNDEN_GRUND = 120;
 
 class Lauf {
@@ -44,6 +45,7 @@ private:
     std::optional<Ergebnis> loesen(const Loeser& loeser);
     std::optional<Ergebnis> fest_loesen(const Loeser& loeser, bool zwei_frequenzen);
     std::optional<Ergebnis> offen_loesen(const Loeser& loeser, bool zwei_frequenzen);
+    Loeserlauf laufen(const Loeser& loeser, Laufart art);
     void laufzeile(Laufart art, const Loeserlauf& lauf, const Urteil& urteil);
     Ergebnis ergebnis(const Loeserausgabe& ausgabe, const Urteil& urteil, std::string_view typ) const;
     bool abbruch(std::string_view grund)
@@ -59,6 +61,8 @@ private:
     Beobachtungsdatei m_basis, m_rover;
     double m_laenge = 0.0, m_hoehenunterschied = 0.0;  // of the real baseline
     Loeserauftrag m_auftrag;
+    bool m_version_geprueft = false;
+    bool m_haengt = false;  // the solver reached its time limit: no further run
 };
 
 bool Lauf::dateien_lesen()
@@ -107,6 +111,13 @@ bool Lauf::zeitraum_setzen()
         return abbruch(u8"Nach dem Weglassen von Anfang und Ende bleibt vom Rover kein Zeitraum übrig!"_w);
     if (gemeinsame(0.0) == 0) return abbruch("Basis und Rover haben keine gemeinsamen Epochen!");
     m_auftrag.takt = takt_waehlen();
+    m_protokoll.zeile(verkettet("Zeitraum des Rovers    ", zeittext(m_auftrag.von), " bis ", zeittext(m_auftrag.bis),
+                                " (GPS)",
+                                m_auftrag.takt > 0 ? verkettet(", Takt ", fest(m_auftrag.takt, 1), " s") : ""));
+    std::string ohne;
+    for (const std::string& satellit : m_aufruf.ohne_satelliten) ohne.append(" ").append(satellit);
+    m_protokoll.zeile(verkettet("Mindestelevation       ", m_aufruf.elevation, " Grad",
+                                ohne.empty() ? "" : ", ohne Satelliten", ohne));
     return true;
 }
 
@@ -194,6 +205,17 @@ bool Lauf::auftrag_fuellen()
     return true;
 }
 
+Loeserlauf Lauf::laufen(const Loeser& loeser, Laufart art)
+{
+    Loeserlauf lauf = loeser.rechnen(art);
+    m_haengt = lauf.zeit_abgelaufen;
+    const std::string& programm = lauf.ausgabe.programm;
+    if (!m_version_geprueft && !programm.empty() && programm.find(LOESERVERSION) == std::string::npos)
+        m_protokoll.warnung(verkettet("Das Rechenprogramm ist \"", programm, "\", erprobt ist ", LOESERVERSION, "."));
+    m_version_geprueft = m_version_geprueft || !programm.empty();
+    return lauf;
+}
+
 void Lauf::laufzeile(Laufart art, const Loeserlauf& lauf, const Urteil& urteil)
 {
     const auto& p = lauf.ausgabe.positionen;
@@ -216,7 +238,8 @@ std::optional<Ergebnis> Lauf::fest_loesen(const Loeser& loeser, bool zwei_freque
     if (m_aufruf.art == Loesungsart::l1 && m_laenge > MITTEL)
         m_protokoll.warnung(verkettet(u8"L1 ist für "_w, fest(m_laenge / 1000.0, 1), " km zu lang."));
     for (const Versuch& versuch : versuche) {
-        const Loeserlauf lauf = loeser.rechnen(versuch.art);
+        if (m_haengt) break;
+        const Loeserlauf lauf = laufen(loeser, versuch.art);
         const Urteil urteil = urteilen(lauf.ausgabe, versuch.annahme);
         laufzeile(versuch.art, lauf, urteil);
         if (urteil.angenommen) return ergebnis(lauf.ausgabe, urteil, versuch.typ);
@@ -227,7 +250,8 @@ std::optional<Ergebnis> Lauf::fest_loesen(const Loeser& loeser, bool zwei_freque
 std::optional<Ergebnis> Lauf::offen_loesen(const Loeser& loeser, bool zwei_frequenzen)
 {
     for (const Laufart art : plan_offen(m_laenge, zwei_frequenzen)) {
-        const Loeserlauf lauf = loeser.rechnen(art);
+        if (m_haengt) break;
+        const Loeserlauf lauf = laufen(loeser, art);
         const Urteil urteil = urteilen_offen(lauf.ausgabe, art);
         laufzeile(art, lauf, urteil);
         if (!urteil.angenommen) continue;

@@ -224,6 +224,7 @@ Loeserlauf Loeser::rechnen(Laufart art) const
     worte.insert(worte.end(), {"-o", "o.pos", "rover.obs", "base.obs", "brdc.nav"});
     const Prozessende ende = programm_ausfuehren(m_umgebung.programm, worte, m_ordner, m_umgebung.sekunden);
     lauf.fehlerausgabe = letzte_meldung(ende.fehlerausgabe);
+    lauf.zeit_abgelaufen = ende.zeit_abgelaufen;
     if (!ende.gestartet)
         lauf.fehler = "Das Rechenprogramm konnte nicht gestartet werden";
     else if (ende.zeit_abgelaufen)

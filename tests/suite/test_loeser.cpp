@@ -32,6 +32,7 @@ TEST(Loeser, stoerungen_geben_eine_meldung_und_kein_ergebnis)
         {"Status", "exit 3", "endete mit Status 3"},
         {"tut nichts", "echo 'error : no nav data' >&2", "error : no nav data"},
         {"leere Datei", ": > o.pos", "lieferte keine"},
+        {"andere Version", "echo '% program   : RTKLIB ver.2.4.2' > o.pos", "erprobt ist 2.4.3"},
         {"nur Kopf", "echo '% program   : RTKLIB ver.2.4.3' > o.pos", "lieferte keine"},
         {"halbe Zeile", "printf '2005/04/02 00:00:00.000  -3976219.71' > o.pos", "lieferte keine"},
         {"keine Zahlen", "printf '2005/04/02 00:00:00.000 nan nan nan 1 7 nan nan nan nan nan nan 0 9\\n' > o.pos",

@@ -44,8 +44,8 @@ TEST(Wahrheit, verschiebung_trifft_die_beobachtungen_am_ort)
     }
     const Pruefordner p;
     schreiben(p, s);
-    const std::string rover = "55021670.16o";
-    ASSERT_EQ(p.wav2({rover, "0593"}, Troposphaerenmodell::ohne).status, 0);
+    const std::string rover = "55061670.16o";  // 72 km from the station
+    ASSERT_EQ(p.wav2({rover, "0596"}, Troposphaerenmodell::ohne).status, 0);
     std::string grund;
     const auto virt = beobachtung_lesen(p.text("virt167.16o"), Umfang::alles, grund);
     const auto echt = beobachtung_lesen(p.text(rover), Umfang::alles, grund);

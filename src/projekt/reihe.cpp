@@ -35,7 +35,7 @@ Reihe& Reihe::fehler(std::string_view feldwort)
     return *this;
 }
 
-bool Reihe::naechstes(std::string_view& wort, const Feldwort& feldwort)
+bool Reihe::naechstes(std::string_view& wort, Feldwort feldwort)
 {
     if (!m_gut) return false;
     const Wort w = m_worte.naechstes();
@@ -45,7 +45,7 @@ bool Reihe::naechstes(std::string_view& wort, const Feldwort& feldwort)
 }
 
 template <typename T, typename Umwandlung>
-Reihe& Reihe::wandeln(T& ziel, const Feldwort& wort, Umwandlung umwandlung)
+Reihe& Reihe::wandeln(T& ziel, Feldwort wort, Umwandlung umwandlung)
 {
     std::string_view text;
     if (!naechstes(text, wort)) return *this;

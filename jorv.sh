@@ -65,7 +65,55 @@ pruefen() {
     ctest --test-dir "$bau" -j "$kerne" --output-on-failure --no-tests=error "${auswahl[@]}"
 }
 
+# Dieselbe Angabe, wie die Verfahren sie tragen: Laufwerk Z: ist die Wurzel, Windows-1252.
+dos_pfad() { printf 'Z:%s' "${1//\//\\}"; }
+
+# Das Beispiel hat seine eigenen Einstellungen und seinen eigenen Ordner für Katalog und Grenzen, damit es nichts
+# berührt, was dem Benutzer gehört.
+beispiel_anlegen() {
+    [[ ! -e $beispiel || -e $beispiel/.jorv-beispiel ]] ||
+        abbrechen "$beispiel gibt es schon, und es ist kein Beispiel von hier."
+    rm -rf "$beispiel"
+    mkdir -p "$beispiel/programme"
+    touch "$beispiel/.jorv-beispiel"
+    ln -s "$programme"/* "$beispiel/programme/"
+    printf '[GRUNDEINSTELLUNGEN]\r\nEXE-Verzeichnis=%s\r\n' "$(dos_pfad "$beispiel/programme")" |
+        iconv -f UTF-8 -t WINDOWS-1252 >"$beispiel/JorvPlus.INI"
+    "$programme/jorv-simulator" beispiel "$beispiel"
+}
+
+beispiel_rechnen() {
+    local jorv=("$programme/jorv" --einstellungen "$beispiel/JorvPlus.INI") nummer figur
+    "${jorv[@]}" katalog machen "$beispiel/katalog.txt"
+    "${jorv[@]}" grenzen machen "$beispiel/grenzen.txt"
+    nummer=$("${jorv[@]}" neu Beispiel --modus E --verzeichnis "$beispiel/verfahren")
+    "${jorv[@]}" antennen "$nummer" "$beispiel/antennen/antennen.atx"
+    "${jorv[@]}" rinex "$nummer" "$beispiel/rinex"
+    while read -r -a figur; do
+        "${jorv[@]}" figur "$nummer" "${figur[@]}"
+    done <"$beispiel/figuren.txt"
+    "${jorv[@]}" zeigen "$nummer" rover
+    schritt "Auswerten"
+    "${jorv[@]}" auswerten "$nummer" >/dev/null
+    schritt "Ergebnisse und ihre Abweichung von der Wahrheit (Ost, Nord, Höhe)"
+    "$programme/jorv-wahrheit" "$beispiel/wahrheit.txt" "$beispiel/verfahren"
+    printf '\nDas Verfahren liegt in %s. Ansehen:\n  %q --einstellungen %q zeigen %s\n' \
+        "$beispiel/verfahren" "$programme/jorv" "$beispiel/JorvPlus.INI" "$nummer"
+}
+
+vorfuehren() {
+    einrichten
+    bauen jorv jorv-dos WATIME wav2 wa2 jorv-simulator jorv-wahrheit
+    schritt "Beispiel in $beispiel"
+    beispiel_anlegen
+    beispiel_rechnen
+}
+
 case ${1:-hilfe} in
+beispiel)
+    [[ $# -eq 1 ]] || { hilfe >&2; exit 2; }
+    vorfuehren
+    ;;
 test)
     [[ $# -eq 1 || ($# -eq 2 && $2 == --lang) ]] || { hilfe >&2; exit 2; }
     pruefen "${2:-}"

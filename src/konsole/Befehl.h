@@ -13,8 +13,7 @@ enum class Grundlage {
     nichts,         ///< not even the settings
     einstellungen,  ///< settings read
     katalog,        ///< settings and station catalogue read
-    verfahren,      ///< also the project of the first word opened
-    aenderung       ///< the same; it is saved after a success
+    verfahren       ///< also the project of the first word opened
 };
 
 enum class Ausgang { gut = 0, misslungen = 1, falscher_aufruf = 2 };

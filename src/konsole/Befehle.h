@@ -9,6 +9,11 @@
 
 namespace jorv {
 
+std::span<const Befehl> befehle_verfahren();
+std::span<const Befehl> befehle_dateien();
+std::span<const Befehl> befehle_planung();
+std::span<const Befehl> befehle_auswertung();
+std::span<const Befehl> befehle_katalog();
 std::span<const Befehl> befehle_hilfe();
 
 /// Every command once.

@@ -53,6 +53,7 @@ Antwort Konsolenschirm::frage(Symbol, std::string_view text, Antwort vorgabe, st
 
 void Konsolenschirm::fortschritt_zeigen(std::string_view text)
 {
+    if (!m_fortschritt_erlaubt) return;
     std::string neu = utf8_aus_1252(trimmen(text));
     const bool anders = neu != m_fortschritt || !m_sichtbar;
     m_fortschritt = std::move(neu);

@@ -41,6 +41,9 @@ public:
     /// Gives `verfahrenswahl` once, then cancels, so that a refused choice isn't offered for ever.
     std::optional<Verfahrenswahl> neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer) override;
 
+    /// Progress of the start is nobody's business: shown from here on.
+    void fortschritt_erlauben() { m_fortschritt_erlaubt = true; }
+
     std::optional<Dateiwahl> dateiwahl;
     std::optional<Verfahrenswahl> verfahrenswahl;
 
@@ -58,7 +61,7 @@ private:
     std::function<bool()> m_abbruch;
     std::string m_fortschritt;  // UTF-8
     int m_prozent = 0;
-    bool m_sichtbar = false;
+    bool m_fortschritt_erlaubt = false, m_sichtbar = false;
     std::chrono::steady_clock::time_point m_gezeichnet{};
     int m_stopmeldungen = 0;
 };

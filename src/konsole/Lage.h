@@ -16,8 +16,9 @@ struct Lage {
     const Aufruf& aufruf;
     Konsolenschirm& schirm;
     Global& g;
-    std::ostream& aus;  ///< standard output, UTF-8
-    std::ostream& err;  ///< standard error, UTF-8
+    std::ostream& aus;       ///< standard output, UTF-8
+    std::ostream& err;       ///< standard error, UTF-8
+    bool geaendert = false;  ///< set by a command that changes the project: it is saved behind it
 
     /// A word behind the command's name, from 0; empty when it wasn't given.
     std::string_view wort(std::size_t i) const
@@ -35,6 +36,15 @@ struct Lage {
     {
         schirm.meldung(Symbol::stop, text);
         return Ausgang::misslungen;
+    }
+    Ausgang pfad_nicht_verwendbar(std::string_view utf8)
+    {
+        return stop(verkettet("Der Pfad:\n", text_aus_utf8_mit_ersatz(utf8),
+                              "\nkann nicht verwendet werden (Laufwerk oder Zeichen im Namen)!"));
+    }
+    Ausgang rover_unbekannt(std::string_view utf8)
+    {
+        return stop(verkettet("Den ROVER ", text_aus_utf8_mit_ersatz(utf8), " gibt es im Verfahren nicht!"));
     }
     /// Wrong use of a command, told in UTF-8.
     Ausgang falsch(std::string_view text)

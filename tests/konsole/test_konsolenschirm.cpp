@@ -10,7 +10,10 @@ namespace jorv {
 namespace {
 
 struct Pruefling {
-    explicit Pruefling(Konsolenschirm::Verhalten verhalten = {}) : schirm(aus, err, verhalten, {}) {}
+    explicit Pruefling(Konsolenschirm::Verhalten verhalten = {}) : schirm(aus, err, verhalten, {})
+    {
+        schirm.fortschritt_erlauben();
+    }
     std::ostringstream aus, err;
     Konsolenschirm schirm;
 };

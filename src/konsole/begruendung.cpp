@@ -1,0 +1,116 @@
+#include "konsole/begruendung.h"
+
+#include <array>
+
+#include "konsole/zeigen.h"
+#include "modell/Gemeinsam.h"
+#include "plattform/text.h"
+#include "plattform/zahl.h"
+
+namespace jorv {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> ampeln = {"unbeurteilt", u8"grün"_w, "gelb", "rot"};
+
+constexpr std::array<std::array<std::string_view, 2>, 7> gruende = {{
+    {"Alles OK.", "Zur Zeit keine Probleme identifiziert."},
+    {"Kein TOREL-Punkt mit passenden Beobachtungszeiten", "zum ROVER zugeordnet."},
+    {"Zu wenig TOREL-Punkte mit passenden Beobachtungszeiten", "zum ROVER zugeordnet."},
+    {"TOREL-Punkt(e) und ROVER haben ein", "unterschiedliches Tagesdatum (DAY)."},
+    {"Tagesdatum und/oder Sessionsnummer der TOREL-Stationen", u8"für diesen ROVER sind nicht einheitlich"_w},
+    {"Weniger als 1h Beobachtungsmaterial der TOREL-Stationen", "vorhanden"},
+    {u8"Daten des ROVER sind länger als das Beobachtungsmaterial"_w, "der TOREL-Stationen"},
+}};
+
+// In the order of the enumeration.
+constexpr std::array<std::string_view, 15> pruefungen = {
+    "keine Figur gezeichnet",
+    "von Hand zugeordnet",
+    "liegt in keiner Figur",
+    u8"in einer Figur, aber keine Datei deckt den ROVER ab"_w,
+    "weniger Dateien als Ecken der Figur",
+    "so viele Dateien wie Ecken der Figur",
+    "mehr Dateien als Ecken der Figur",
+    "Tagesdatum einer Station weicht vom ROVER ab",
+    "Tagesdatum oder Session der Stationen nicht einheitlich",
+    "Beobachtung des ROVER mindestens 60 Minuten lang",
+    "Stationen bieten weniger als eine Stunde",
+    "Stationen bieten eine Stunde um den ROVER",
+    u8"Beobachtungen der Stationen enden zu früh"_w,
+    u8"nächste passende fremde Referenzstation zugeordnet"_w,
+    u8"keine fremde Referenzstation deckt den ROVER mit einer Stunde ab"_w,
+};
+
+// "" when in time, else " 12 min zu spät" or, below a minute, in seconds.
+std::string verfehlung(std::string_view wort, std::int64_t minuten, std::int64_t sekunden)
+{
+    if (minuten <= 0 && sekunden <= 0) return "";
+    const bool in_minuten = minuten > 0;
+    return verkettet(", ", wort, " ", zahl_text(static_cast<double>(in_minuten ? minuten : sekunden)),
+                     in_minuten ? " min" : " s");
+}
+
+std::string urteil_text(const Dateiurteil& u)
+{
+    std::string text = verkettet("    ", u.TOREL_Dateiname, u.genommen ? "  genommen" : "  nicht genommen",
+                                 verfehlung(u8"beginnt zu spät um"_w, u.Minuten_vorher, u.Sekunden_vorher),
+                                 verfehlung(u8"endet zu früh um"_w, u.Minuten_nachher, u.Sekunden_nachher));
+    if (u.Strecke > 0)
+        text += verkettet(", Strecke ", fest(u.Strecke, 0), " m, ", zahl_text(static_cast<double>(u.Minuten_Laenge)),
+                          " min lang");
+    return text + "\n";
+}
+
+std::string figur_text(const Global& g, const Begruendung& b)
+{
+    if (b.Figur < 1 || b.Figur > g.GEO_Punkt.anzahl()) return "";
+    const auto& figur = g.GEO_Punkt[b.Figur];
+    std::string ecken;
+    for (int i = 0; i < figur.Anzahl; ++i) ecken += verkettet(" ", figur.Punkt[static_cast<std::size_t>(i)]);
+    return verkettet("  Figur ", b.Figur, ":", ecken, "\n");
+}
+
+}  // namespace
+
+std::string_view ampel_text(std::uint8_t status)
+{
+    return status < ampeln.size() ? ampeln[status] : "?";
+}
+
+std::string grund_text(std::uint8_t status, std::uint8_t grund)
+{
+    if (status == 1) grund = 0;
+    if (grund >= gruende.size() || (grund == 0 && status != 1))
+        return verkettet("Unspezifizierter Grund.", u8" Für mögliche Ursachen bitte im Handbuch nachlesen."_w);
+    return verkettet(gruende[grund][0], " ", gruende[grund][1]);
+}
+
+std::string_view pruefung_text(Pruefung pruefung)
+{
+    return pruefungen.at(static_cast<std::size_t>(pruefung));
+}
+
+std::string begruendung_text(const Global& g, int i)
+{
+    std::string text = g.OBS_R[i].Dateiname;
+    if (i <= g.ROVER_TOREL.anzahl()) {
+        const auto& zeile = g.ROVER_TOREL[i];
+        text += verkettet(": ", ampel_text(zeile.Status));
+        if (zeile.Status != 0) text += verkettet(", ", grund_text(zeile.Status, zeile.Grund));
+    }
+    text += "\n";
+    if (static_cast<std::size_t>(i) > g.Begruendungen.size()) return text;
+    const Begruendung& b = g.Begruendungen[static_cast<std::size_t>(i - 1)];
+    text += figur_text(g, b);
+    for (const auto& urteil : b.Dateien) text += urteil_text(urteil);
+    for (const Pruefung schritt : b.Schritte) text += verkettet("  - ", pruefung_text(schritt), "\n");
+    if (!b.abweichende_Datei.empty()) text += verkettet("  abweichende Datei: ", b.abweichende_Datei, "\n");
+    text += verkettet("  Beobachtung des ROVER: ", zahl_text(static_cast<double>(b.Minuten_ROVER)), " min\n");
+    if (b.Minuten_Spanne > 0)
+        text += verkettet("  die Stationen bieten ", zahl_text(static_cast<double>(b.Minuten_Spanne)), " min (",
+                          datum_text(b.Spanne_von), " bis ", datum_text(b.Spanne_bis), ")\n");
+    return text;
+}
+
+}  // namespace jorv

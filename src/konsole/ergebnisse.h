@@ -1,0 +1,15 @@
+// The results of all rovers of the open project.
+#pragma once
+
+#include <string>
+
+#include "modell/Global.h"
+
+namespace jorv {
+
+/// A line for each rover: solution type, coordinates, standard deviations in mm; "keine Lösung" where there is no
+/// result file. Text in Windows-1252, and JSON in UTF-8.
+std::string ergebnisse_text(const Global& g);
+std::string ergebnisse_json(const Global& g);
+
+}  // namespace jorv

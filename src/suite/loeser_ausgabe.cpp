@@ -1,7 +1,6 @@
 #include "suite/loeser_ausgabe.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 
 #include "plattform/text.h"
@@ -44,10 +43,10 @@ std::optional<Position> position_lesen(std::string_view zeile)
     std::array<double, 13> zahl{};
     for (std::size_t i = 0; i < zahl.size(); ++i) {
         const auto wert = spaltenzahl(wort[i + 2]);
-        if (!wert || !std::isfinite(*wert)) return {};
+        if (!wert) return {};
         zahl[i] = *wert;
     }
-    if (!zeit) return {};
+    if (!zeit || zahl[3] < 0 || zahl[3] > 9) return {};
     Position p;
     p.zeit = *zeit;
     p.ort = {zahl[0], zahl[1], zahl[2]};
@@ -67,6 +66,7 @@ std::optional<Restzeile> rest_lesen(std::string_view zeile)
     const auto sekunde = spaltenzahl(wort[2]), azimut = spaltenzahl(wort[5]), elevation = spaltenzahl(wort[6]),
                rest_code = spaltenzahl(wort[7]), rest = spaltenzahl(wort[8]);
     if (!woche || !frequenz || !gueltig || !fest || !sekunde || !azimut || !elevation || !rest_code || !rest) return {};
+    if (*woche < 0 || *sekunde < 0 || *sekunde > 604800) return {};
     return Restzeile{gps_zeit(*woche, *sekunde),
                      std::string(wort[3]),
                      *frequenz,

@@ -12,6 +12,7 @@ namespace jorv::suite {
 namespace {
 
 constexpr std::size_t ZEILEN_JE_SATZ = 8;
+constexpr double WOCHE = 604800.0;  // s
 
 struct Satzfeld {
     double Ephemeride::*ziel;
@@ -46,7 +47,7 @@ std::optional<Ephemeride> satz_lesen(const Satzzeilen& zeilen)
     }
     const auto sekunde = spaltenzahl(spalten(zeilen[0], 17, 5));
     const auto toe = satzzahl(zeilen, 3, 0);
-    if (!satellit || *satellit < 1 || *satellit > 99 || !sekunde || !toe) return {};
+    if (!satellit || *satellit < 1 || *satellit > 99 || !sekunde || !toe || *toe < 0 || *toe > WOCHE) return {};
     const auto toc = gps_zeit({volles_jahr(datum[0]), datum[1], datum[2], datum[3], datum[4], *sekunde});
     if (!toc) return {};
     for (const Satzfeld& feld : FELDER) {
@@ -59,8 +60,8 @@ std::optional<Ephemeride> satz_lesen(const Satzzeilen& zeilen)
     eph.toc = *toc;
     // The week number of old files has rolled over or names the week of transmission: the set's own clock time decides.
     eph.toe = gps_zeit(woche(*toc), *toe);
-    if (abstand(eph.toe, *toc) > 302400) eph.toe = verschoben(eph.toe, -604800);
-    if (abstand(eph.toe, *toc) < -302400) eph.toe = verschoben(eph.toe, 604800);
+    if (abstand(eph.toe, *toc) > WOCHE / 2) eph.toe = verschoben(eph.toe, -WOCHE);
+    if (abstand(eph.toe, *toc) < -WOCHE / 2) eph.toe = verschoben(eph.toe, WOCHE);
     return eph;
 }
 

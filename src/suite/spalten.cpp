@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace jorv::suite {
 
@@ -28,7 +29,7 @@ std::optional<double> spaltenzahl(std::string_view feld)
     }
     double wert = 0.0;
     const auto [ende, fehler] = std::from_chars(feld.data(), feld.data() + feld.size(), wert);
-    if (fehler != std::errc{} || ende != feld.data() + feld.size()) return {};
+    if (fehler != std::errc{} || ende != feld.data() + feld.size() || !std::isfinite(wert)) return {};
     return wert;
 }
 

@@ -13,7 +13,7 @@ namespace jorv::suite {
 std::string_view spalten(std::string_view zeile, std::size_t ab, std::size_t anzahl);
 
 /// The number that fills a field wholly (decimal point, exponent by E or D, a sign of either kind).
-/// Nothing for a blank field and for anything else.
+/// Nothing for a blank field and for anything else, infinity and not-a-number among it.
 std::optional<double> spaltenzahl(std::string_view feld);
 
 /// A whole number, or nothing.

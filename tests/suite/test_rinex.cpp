@@ -149,6 +149,13 @@ TEST(Rinex, navigation_ohne_doppelte_und_mit_bruechen)
         if (nummer != 12) kaputt.append(*zeile).append("\n");
     Navigation dritte;
     EXPECT_EQ(navigation_lesen(kaputt, dritte), saetze - 1);
+    // A reference time outside the week, an infinite number.
+    for (const char* wort : {" 9.999999999999D+99", "-1.000000000000D+00", "                inf"}) {
+        std::string falsch = text;
+        const auto toe = falsch.find('\n', falsch.find("END OF HEADER"));
+        falsch.replace(falsch.find('\n', falsch.find('\n', falsch.find('\n', toe + 1) + 1) + 1) + 4, 19, wort);
+        EXPECT_EQ(navigation_lesen(falsch, dritte), saetze - 1) << wort;
+    }
     EXPECT_EQ(navigation_lesen("x", dritte), -1);
     EXPECT_EQ(navigation_lesen(kopf(), dritte), -1);
 }

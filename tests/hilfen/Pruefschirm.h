@@ -27,33 +27,27 @@ public:
     Pruefschirm() = default;
     Pruefschirm(const Pruefschirm&) = delete;
     Pruefschirm& operator=(const Pruefschirm&) = delete;
-    /// With JORV_MELDUNGEN set, what was shown is kept there for the closing check that every message text has been
-    /// shown once.
-    ~Pruefschirm() override
-    {
-        const char* ordner = std::getenv("JORV_MELDUNGEN");
-        if (!ordner || (gezeigt.empty() && fortschritt.empty())) return;
-        std::ofstream datei(std::string(ordner) + "/" + std::to_string(prozess_kennung()),
-                            std::ios::app | std::ios::binary);
-        for (const auto& g : gezeigt) datei << g.text << '\n';
-        for (const auto& text : fortschritt) datei << text << '\n';
-    }
-
     using Oberflaeche::frage;
     using Oberflaeche::meldung;
     void meldung(Symbol symbol, std::string_view text, std::string_view titel) override
     {
+        aufheben(text);
         gezeigt.push_back({symbol, std::string(text), std::string(titel), false});
     }
     Antwort frage(Symbol symbol, std::string_view text, Antwort vorgabe, std::string_view titel) override
     {
+        aufheben(text);
         gezeigt.push_back({symbol, std::string(text), std::string(titel), true});
         if (antworten.empty()) return vorgabe;
         const Antwort antwort = antworten.front();
         antworten.pop_front();
         return antwort;
     }
-    void fortschritt_zeigen(std::string_view text) override { fortschritt.emplace_back(text); }
+    void fortschritt_zeigen(std::string_view text) override
+    {
+        aufheben(text);
+        fortschritt.emplace_back(text);
+    }
     void fortschritt_setzen(double prozent) override { prozente.push_back(prozent); }
     void fortschritt_verbergen() override { fortschritt.emplace_back("(verborgen)"); }
     bool ereignisse() override
@@ -117,6 +111,17 @@ public:
     int ereignisse_zahl = 0;
     int abbruch_nach = 0;  ///< the abort button counts as pressed from this event on; 0 never
     std::function<void()> bei_ereignissen;
+
+private:
+    // With JORV_MELDUNGEN set, what was shown is kept there for the closing check that every message text has been
+    // shown once; at once, since a test may clear what it has looked at.
+    static void aufheben(std::string_view text)
+    {
+        if (const char* ordner = std::getenv("JORV_MELDUNGEN"))
+            std::ofstream(std::string(ordner) + "/" + std::to_string(prozess_kennung()),
+                          std::ios::app | std::ios::binary)
+                << text << '\n';
+    }
 };
 
 }  // namespace jorv::hilfen

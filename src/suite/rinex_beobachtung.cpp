@@ -150,6 +150,8 @@ std::optional<Epochenzeile> Leser::epochenzeile(std::string_view z) const
 
 void Leser::daten()
 {
+    // About one observation a line of its columns; growing step by step would copy a large file's values many times.
+    if (m_umfang == Umfang::alles) m_ziel.messungen.reserve(m_rest.size() / (16 * m_spalten.size()));
     std::string_view z;
     while (!m_abgebrochen && zeile(z)) {
         const auto e = epochenzeile(z);

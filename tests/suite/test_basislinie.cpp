@@ -176,6 +176,27 @@ TEST(Basislinie, ohne_loesung_keine_zeile)
     }
 }
 
+// Too short for integers, and no phases at all: a float row that says so, never a fixed one.
+TEST(Basislinie, ohne_ganze_zahlen_bleibt_die_loesung_offen)
+{
+    BEREIT();
+    ASSERT_EQ(p.wa2({BASIS, ROVER, "+ACF001.ATX"}).status, 0);
+    const Xyz soll = p.rover();
+    const Lauf kurz = p.wa2({BASIS, ROVER, "+ACF001.ATX", "-M58", "+E-STY,AMB"});
+    EXPECT_EQ(kurz.status, 0);
+    EXPECT_TRUE(kurz.meldet("WARNUNG: Die Mehrdeutigkeiten"));
+    EXPECT_EQ(p.text("wa2ext.txt"), "FloatDGNSS   0.0\r\n");
+    expect_nahe(p.rover(), soll, 1000.0, 2000.0);
+    for (const std::string& name : {ROVER, BASIS})
+        p.aendern(name, "     4    L1    C1    L2    P2", "     4    D1    C1    D2    P2");
+    const Lauf code = p.wa2({BASIS, ROVER, "+ACF001.ATX", "+E-STY,AMB"});
+    EXPECT_EQ(code.status, 0) << code.ausgabe;
+    EXPECT_TRUE(code.meldet("WARNUNG: Nur eine L")) << code.ausgabe;
+    EXPECT_EQ(p.text("wa2ext.txt"), "FloatDGNSS   0.0\r\n");
+    EXPECT_GT(p.wert("sigma0"), 0.05);
+    expect_nahe(p.rover(), soll, 3000.0, 6000.0);
+}
+
 TEST(Basislinie, antenne_fehlt_am_einen_ende)
 {
     BEREIT();

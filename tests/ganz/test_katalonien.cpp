@@ -65,23 +65,49 @@ constexpr std::string_view katalog =
     "0601 4833520.1197 41537.2015 4147461.6263 Ebre\n0602 4796983.5767 160309.1177 4187340.3773 Garraf\n"
     "0603 4776835.5870 202618.9947 4207574.6304 Mataro\n0604 4715420.3054 273177.8809 4271946.7957 Creus\n";
 
-TEST(Lang_Katalonien, ZweiRoverVonDerAufnahmeBisZurKoordinate)
+// A line with its label from column 61 on.
+std::string antex_zeile(std::string text, std::string_view kennung)
+{
+    text.resize(60, ' ');
+    return verkettet(text, kennung, "\n");
+}
+
+// An antenna without any offset for the rovers, whose own one nobody knows; their headers call its number "Unknown".
+std::string unbekannte_antenne()
+{
+    std::string text = antex_zeile("", "START OF ANTENNA") +
+                       antex_zeile("-                   Unknown", "TYPE / SERIAL NO") +
+                       antex_zeile("     0.0", "DAZI") + antex_zeile("     0.0  90.0   5.0", "ZEN1 / ZEN2 / DZEN") +
+                       antex_zeile("     2", "# OF FREQUENCIES");
+    for (const char* frequenz : {"   G01", "   G02"}) {
+        text += antex_zeile(frequenz, "START OF FREQUENCY") +
+                antex_zeile("      0.00      0.00      0.00", "NORTH / EAST / UP") + "   NOAZI";
+        for (int i = 0; i < 19; ++i) text += "    0.00";
+        text += "\n" + antex_zeile(frequenz, "END OF FREQUENCY");
+    }
+    return text + antex_zeile("", "END OF ANTENNA");
+}
+
+TEST(Ganz_Katalonien, ZweiRoverVonDerAufnahmeBisZurKoordinate)
 {
     const fs::path daten = fs::path(JORV_DATEN) / "echt";
     if (!fs::exists(daten / "katalonien2010/garr0770.10o"))
         GTEST_SKIP() << "The real observations are missing: " << daten.string();
-    // The rovers' antennas are unknown, those of the stations are calibrated by type.
-    const Arbeitsplatz platz("Typkalibrierung=J\r\n");
+    const Arbeitsplatz platz;
     netz_kopieren(daten / "katalonien2010", platz.host("rinex"));
     hilfen::schreiben(platz.host("katalog.txt"), katalog);
+    hilfen::schreiben(platz.host("grenzen.txt"), "2 -200000 4500000\n1 0 4700000\n");
+    hilfen::schreiben(platz.host("antennen.atx"),
+                      hilfen::lesen(daten / "antennen/igs08_auszug.atx") + unbekannte_antenne());
     const auto gut = [&](const std::vector<std::string>& worte) {
         const auto lauf = platz.jorv(worte);
         EXPECT_EQ(lauf.status, 0) << worte[0] << "\n" << lauf.aus << lauf.err;
         return lauf.aus;
     };
     gut({"katalog", "machen", "katalog.txt"});
+    gut({"grenzen", "machen", "grenzen.txt"});
     gut({"neu", "Katalonien", "--modus", "E", "--verzeichnis", "verfahren"});
-    gut({"antennen", "1", (daten / "antennen/igs08_auszug.atx").string()});
+    gut({"antennen", "1", "antennen.atx"});
     gut({"--ja", "rinex", "1", "rinex"});
     gut({"figur", "1", "0601", "0602", "0603"});
     std::cout << gut({"zeigen", "1", "rover"});

@@ -76,7 +76,10 @@ beispiel_anlegen() {
     rm -rf "$beispiel"
     mkdir -p "$beispiel/programme"
     touch "$beispiel/.jorv-beispiel"
-    ln -s "$programme"/* "$beispiel/programme/"
+    local datei
+    for datei in "$programme"/*; do # nur Programme: durch einen Verweis würde ein Katalog dort überschrieben
+        [[ ! -x $datei || -d $datei ]] || ln -s "$datei" "$beispiel/programme/"
+    done
     printf '[GRUNDEINSTELLUNGEN]\r\nEXE-Verzeichnis=%s\r\n' "$(dos_pfad "$beispiel/programme")" |
         iconv -f UTF-8 -t WINDOWS-1252 >"$beispiel/JorvPlus.INI"
     "$programme/jorv-simulator" beispiel "$beispiel"

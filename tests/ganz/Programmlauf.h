@@ -22,8 +22,10 @@ public:
     explicit Arbeitsplatz(std::string_view zeilen = "") : m_ordner("mit Blank ä")
     {
         fs::create_directories(host("programme"));
+        // Programs only: a catalogue there would be written through its link.
         for (const auto& eintrag : fs::directory_iterator(JORV_PROGRAMME))
-            fs::create_symlink(eintrag.path(), host("programme") / eintrag.path().filename());
+            if ((eintrag.status().permissions() & fs::perms::owner_exec) != fs::perms::none)
+                fs::create_symlink(eintrag.path(), host("programme") / eintrag.path().filename());
         schreiben(host("JorvPlus.INI"), "[GRUNDEINSTELLUNGEN]\r\nEXE-Verzeichnis=" + m_ordner.dos() +
                                             "\\programme\r\n" + std::string(zeilen));
     }

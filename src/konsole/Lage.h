@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "konsole/Aufruf.h"
+#include "konsole/Befehle.h"
 #include "konsole/Konsolenschirm.h"
 #include "modell/Global.h"
 #include "plattform/text.h"
@@ -46,10 +47,18 @@ struct Lage {
     {
         return stop(verkettet("Den ROVER ", text_aus_utf8_mit_ersatz(utf8), " gibt es im Verfahren nicht!"));
     }
+    /// Index of a rover by its file name in any case, 0 when the project has none of that name.
+    int rover_index(std::string_view utf8) const
+    {
+        const std::string name = text_aus_utf8_mit_ersatz(utf8);
+        for (int i = 1; i <= g.OBS_R.anzahl(); ++i)
+            if (gleich_ohne_gross(g.OBS_R[i].Dateiname, name)) return i;
+        return 0;
+    }
     /// Wrong use of a command, told in UTF-8.
     Ausgang falsch(std::string_view text)
     {
-        err << text << '\n';
+        err << text << "\nAufruf: " << befehl_zeile(*aufruf.befehl) << '\n';
         return Ausgang::falscher_aufruf;
     }
 };

@@ -12,10 +12,10 @@ namespace {
 
 Ausgang batch(Lage& lage)
 {
-    const std::string rover = klein(text_aus_utf8_mit_ersatz(lage.wort(1)));
-    if (Index_OBS_R(lage.g, rover) == 0) return lage.rover_unbekannt(lage.wort(1));
+    const int rover = lage.rover_index(lage.wort(1));
+    if (rover == 0) return lage.rover_unbekannt(lage.wort(1));
     if (!ist_E_oder_S(lage.g)) return lage.stop("Batchdateien einzelner ROVER gibt es in den Modi E und S!");
-    if (ist_fehler(rover_batch_vrs(lage.g, rover))) return Ausgang::misslungen;
+    if (ist_fehler(rover_batch_vrs(lage.g, lage.g.OBS_R[rover].Dateiname))) return Ausgang::misslungen;
     lage.aus << utf8_aus_1252(verkettet(batchdatei(lage.g), "\n", aufrufdatei(lage.g), "\n"));
     return Ausgang::gut;
 }

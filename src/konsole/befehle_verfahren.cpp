@@ -35,15 +35,6 @@ Ausgang neu(Lage& lage)
     return Ausgang::gut;
 }
 
-// Rover by its file name, in any case.
-int rover_index(Lage& lage, std::string_view wort)
-{
-    const std::string name = klein(text_aus_utf8_mit_ersatz(wort));
-    for (int i = 1; i <= lage.g.OBS_R.anzahl(); ++i)
-        if (klein(lage.g.OBS_R[i].Dateiname) == name) return i;
-    return 0;
-}
-
 Ausgang zeigen(Lage& lage)
 {
     std::optional<Teil> teil;
@@ -52,7 +43,7 @@ Ausgang zeigen(Lage& lage)
         if (!teil) return lage.falsch(verkettet("Den Teil ", lage.wort(1), " gibt es nicht."));
     }
     if (const auto rover = lage.option("--warum"); !rover.empty()) {
-        const int i = rover_index(lage, rover);
+        const int i = lage.rover_index(rover);
         if (i == 0) return lage.rover_unbekannt(rover);
         lage.aus << (lage.aufruf.json ? begruendung_json(lage.g, i) : utf8_aus_1252(begruendung_text(lage.g, i)));
         return Ausgang::gut;

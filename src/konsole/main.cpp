@@ -36,6 +36,8 @@ int main(int anzahl, char** werte)
         std::signal(SIGINT, SIG_DFL);
     });
     const std::vector<std::string> worte(werte + (anzahl > 0 ? 1 : 0), werte + anzahl);
-    return jorv::programm({std::cout, std::cerr, fehlerausgabe_ist_terminal(), [] { return abbruch_verlangt != 0; }},
-                          worte);
+    const int status = jorv::programm(
+        {std::cout, std::cerr, fehlerausgabe_ist_terminal(), [] { return abbruch_verlangt != 0; }}, worte);
+    // Output that didn't arrive, on a full disk, is a failure too.
+    return std::cout.flush() || status != 0 ? status : 1;
 }

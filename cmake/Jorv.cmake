@@ -35,12 +35,16 @@ function(jv_bibliothek name)
   target_link_libraries(${name} PUBLIC jv_regeln ${A_ETAGEN})
 endfunction()
 
-# jv_programm(wa2 QUELLEN wa2_main.cpp ETAGEN jv_suite)
+# jv_programm(wa2 KLEIN QUELLEN wa2_main.cpp ETAGEN jv_suite); KLEIN: started for each rover, so linked without shared libraries,
+# which halves its start.
 function(jv_programm name)
-  cmake_parse_arguments(A "" "" "QUELLEN;ETAGEN" ${ARGN})
+  cmake_parse_arguments(A "KLEIN" "" "QUELLEN;ETAGEN" ${ARGN})
   add_executable(${name} ${A_QUELLEN})
   target_link_libraries(${name} PRIVATE jv_regeln ${A_ETAGEN})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${JORV_PROGRAMME})
+  if(A_KLEIN AND UNIX AND NOT CMAKE_CXX_FLAGS MATCHES "sanitize")
+    target_link_options(${name} PRIVATE -static)
+  endif()
 endfunction()
 
 # jv_test(test_daten QUELLEN test_a.cpp ETAGEN jv_daten): one test program a folder; every TEST is a ctest of its own.

@@ -36,7 +36,7 @@ void aufrufdatei_schreiben(Global& g, Aufruftext text)
     std::string bytes;
     for (const auto zeile : wartetext) bytes += verkettet(zeile, "\r\n");
     bytes += verkettet(dos_text(verkettet('"', batchdatei(g), '"')), "\r\n");
-    if (!g.dateien.schreiben(aufrufdatei(g), bytes)) return;
+    if (!g.dateien.schreiben(aufrufdatei(g), bytes, Dauer::fluechtig)) return;
     const std::string_view artikel = text == Aufruftext::der_Batchdatei ? "der" : "die";
     stop_melden(g, datei_meldung("Die Aufrufdatei:", aufrufdatei(g),
                                  verkettet(artikel, u8" Batchdatei konnte nicht angelegt/überschrieben werden!"_w)));
@@ -44,7 +44,7 @@ void aufrufdatei_schreiben(Global& g, Aufruftext text)
 
 Fehler batchdatei_schreiben(Global& g, std::string_view bytes, std::string_view erste_zeile)
 {
-    if (!g.dateien.schreiben(batchdatei(g), bytes)) return Fehler::keiner;
+    if (!g.dateien.schreiben(batchdatei(g), bytes, Dauer::fluechtig)) return Fehler::keiner;
     stop_melden(g, datei_meldung(erste_zeile, batchdatei(g), u8"konnte nicht angelegt/überschrieben werden!"_w));
     return Fehler::gesetzt;
 }

@@ -25,7 +25,8 @@ constexpr std::string_view nicht_geloescht = u8"konnte nicht gelöscht werden!"_
 struct Ziel {
     std::string pfad;
     std::string_view oeffnen, schreiben;
-    bool neu = false;  // created by this evaluation
+    Dauer dauer = Dauer::fest;  // what is deleted again behind its copy needs no flush
+    bool neu = false;           // created by this evaluation
 };
 
 void ohne_extraktion_melden(Global& g, const std::string& extraktion, std::string_view rover)
@@ -40,7 +41,7 @@ void ohne_extraktion_melden(Global& g, const std::string& extraktion, std::strin
 bool oeffnen(Global& g, Ziel& ziel)
 {
     const bool fehlte = !g.dateien.vorhanden(ziel.pfad);
-    if (g.dateien.anhaengen(ziel.pfad, "")) {
+    if (g.dateien.anhaengen(ziel.pfad, "", Dauer::fluechtig)) {
         stop_melden(g, datei_meldung(ziel.oeffnen, ziel.pfad, nicht_geoeffnet));
         return false;
     }
@@ -50,7 +51,7 @@ bool oeffnen(Global& g, Ziel& ziel)
 
 bool anhaengen(Global& g, const Ziel& ziel, std::string_view stueck)
 {
-    if (!g.dateien.anhaengen(ziel.pfad, verkettet(stueck, "\r\n"))) return true;
+    if (!g.dateien.anhaengen(ziel.pfad, verkettet(stueck, "\r\n"), ziel.dauer)) return true;
     stop_melden(g, datei_meldung(ziel.schreiben, ziel.pfad, nicht_geschrieben));
     return false;
 }
@@ -112,8 +113,9 @@ void rover_auswerten(Global& g, const std::string& rover, std::size_t laenge_utm
         return;
     }
     std::array<Ziel, 3> ziele = {
-        {{im_Verfahren(g, utm), "Die RuNA-Eingabedatei:", "In die RuNA-Eingabedatei:"},
-         {im_Verfahren(g, krz), "Die aktuelle Kurzprotokolldatei:", "In die aktuelle Kurprotokolldatei:"},
+        {{im_Verfahren(g, utm), "Die RuNA-Eingabedatei:", "In die RuNA-Eingabedatei:", Dauer::fluechtig},
+         {im_Verfahren(g, krz),
+          "Die aktuelle Kurzprotokolldatei:", "In die aktuelle Kurprotokolldatei:", Dauer::fluechtig},
          {Verfahrens_Datei(g, ".KRZ"),
           "Die Kurzprotokolldatei aller Rover:", "In die Kurzprotokolldatei aller Rover:"}}};
     if (!in_die_ergebnisse(g, ziele, extraktion, *text, laenge_utm)) {

@@ -33,7 +33,7 @@ bool dieselbe_datei(const Umfeld& umfeld, std::string_view a, std::string_view b
 bool eine_kopieren(const Umfeld& umfeld, const Stroeme& stroeme, const Fund& quelle, std::string_view ziel)
 {
     if (dieselbe_datei(umfeld, quelle.pfad, ziel)) return melden(stroeme, auf_sich_selbst, quelle.name);
-    if (umfeld.dateien.kopieren(quelle.pfad, ziel))
+    if (umfeld.dateien.kopieren(quelle.pfad, ziel, Dauer::fluechtig))
         return melden(stroeme, u8"Die Datei konnte nicht kopiert werden"_w, quelle.name);
     std::error_code fehler;
     const auto zeit = fs::last_write_time(umfeld.dateien.host(quelle.pfad), fehler);
@@ -54,7 +54,7 @@ bool zusammenfuegen(const Umfeld& umfeld, const Stroeme& stroeme, const std::vec
         if (!inhalt) return melden(stroeme, u8"Die Datei konnte nicht gelesen werden"_w, quelle.name);
         text += std::string_view(*inhalt).substr(0, inhalt->find(textende));
     }
-    if (!umfeld.dateien.schreiben(ziel, text + textende)) return true;
+    if (!umfeld.dateien.schreiben(ziel, text + textende, Dauer::fluechtig)) return true;
     return melden(stroeme, u8"Die Datei konnte nicht geschrieben werden"_w, ziel);
 }
 

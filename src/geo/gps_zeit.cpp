@@ -19,7 +19,7 @@ Fehler watime(Global& g, std::string_view watime_zeile, std::string& antwort)
     const std::string batch =
         verkettet("@echo off\r\n", batch_path(g.EXE_Verzeichnis), "\r\n", batch_laufwerk(g.Arbeitsverzeichnis), "\r\n",
                   batch_cd(g.Arbeitsverzeichnis), "\r\n", dos_text(watime_zeile), "\r\n");
-    if (g.dateien.schreiben(aufruf, batch)) {
+    if (g.dateien.schreiben(aufruf, batch, Dauer::fluechtig)) {
         stop_melden(g, datei_meldung("Die Aufrufdatei:", aufruf,
                                      u8"der Batchdatei konnte nicht angelegt/überschrieben werden!"_w));
         return Fehler::gesetzt;

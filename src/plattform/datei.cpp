@@ -148,7 +148,7 @@ Abbild Dateisystem::abbilden(std::string_view pfad, std::error_code& fehler) con
     return {};
 }
 
-std::error_code Dateisystem::alles_schreiben(int nummer, std::string_view bytes) const
+std::error_code Dateisystem::alles_schreiben(int nummer, std::string_view bytes, Dauer dauer) const
 {
     while (!bytes.empty()) {
         const long n = m_aufrufe->schreiben(nummer, bytes.data(), bytes.size());
@@ -157,12 +157,13 @@ std::error_code Dateisystem::alles_schreiben(int nummer, std::string_view bytes)
         if (n == 0) return std::make_error_code(std::errc::no_space_on_device);
         bytes.remove_prefix(static_cast<std::size_t>(n));
     }
-    while (m_aufrufe->sichern(nummer) != 0)
+    while (dauer == Dauer::fest && m_aufrufe->sichern(nummer) != 0)
         if (errno != EINTR) return grund();
     return {};
 }
 
-std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view bytes, Dateistufe& stufe) const
+std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view bytes, Dauer dauer,
+                                      Dateistufe& stufe) const
 {
     stufe = Dateistufe::oeffnen;
     std::error_code fehler;
@@ -182,7 +183,7 @@ std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view byt
     }
     if (nummer < 0) return grund();
     stufe = Dateistufe::schreiben;
-    std::error_code ergebnis = alles_schreiben(nummer, bytes);
+    std::error_code ergebnis = alles_schreiben(nummer, bytes, dauer);
     if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) {
         ergebnis = grund();
         stufe = Dateistufe::schliessen;
@@ -194,45 +195,45 @@ std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view byt
         return ergebnis;
     }
     const fs::path ordner = ziel.parent_path().empty() ? fs::path(".") : ziel.parent_path();
-    if (m_aufrufe->ordner_sichern(utf8(ordner).c_str()) != 0) return grund();
+    if (dauer == Dauer::fest && m_aufrufe->ordner_sichern(utf8(ordner).c_str()) != 0) return grund();
     stufe = Dateistufe::gut;
     return {};
 }
 
-std::error_code Dateisystem::schreiben(std::string_view pfad, std::string_view bytes) const
+std::error_code Dateisystem::schreiben(std::string_view pfad, std::string_view bytes, Dauer dauer) const
 {
     Dateistufe stufe;
     const auto ort = m_laufwerke.host(pfad);
-    return ort ? ersetzen(link_ziel(*ort), bytes, stufe) : kein_laufwerk();
+    return ort ? ersetzen(link_ziel(*ort), bytes, dauer, stufe) : kein_laufwerk();
 }
 
 Dateistufe Dateisystem::schreiben_stufenweise(std::string_view pfad, std::string_view bytes) const
 {
     Dateistufe stufe = Dateistufe::oeffnen;
     const auto ort = m_laufwerke.host(pfad);
-    if (ort && !ersetzen(link_ziel(*ort), bytes, stufe)) return Dateistufe::gut;
+    if (ort && !ersetzen(link_ziel(*ort), bytes, Dauer::fest, stufe)) return Dateistufe::gut;
     return stufe;
 }
 
-std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view bytes) const
+std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view bytes, Dauer dauer) const
 {
     const auto ort = m_laufwerke.host(pfad);
     if (!ort) return kein_laufwerk();
     std::error_code fehler;
     const auto zustand = fs::status(*ort, fehler);
     Dateistufe stufe;
-    if (!fs::exists(zustand)) return ersetzen(*ort, bytes, stufe);
+    if (!fs::exists(zustand)) return ersetzen(*ort, bytes, dauer, stufe);
     if (!fs::is_regular_file(zustand)) return std::make_error_code(std::errc::invalid_argument);
     const auto alte_laenge = fs::file_size(*ort, fehler);
     const int nummer = m_aufrufe->oeffnen(utf8(*ort).c_str(), O_WRONLY | O_APPEND, 0);
     if (nummer < 0) return grund();
-    std::error_code ergebnis = alles_schreiben(nummer, bytes);
+    std::error_code ergebnis = alles_schreiben(nummer, bytes, dauer);
     if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) ergebnis = grund();
     if (ergebnis && !fehler) fs::resize_file(*ort, alte_laenge, fehler);
     return ergebnis;
 }
 
-std::error_code Dateisystem::kopieren(std::string_view von, std::string_view nach) const
+std::error_code Dateisystem::kopieren(std::string_view von, std::string_view nach, Dauer dauer) const
 {
     const auto quelle = m_laufwerke.host(von), ziel = m_laufwerke.host(nach);
     if (!quelle || !ziel) return kein_laufwerk();
@@ -241,7 +242,7 @@ std::error_code Dateisystem::kopieren(std::string_view von, std::string_view nac
     const Abbild bild(*quelle, fehler);
     if (fehler) return fehler;
     Dateistufe stufe;
-    return ersetzen(link_ziel(*ziel), bild.text(), stufe);
+    return ersetzen(link_ziel(*ziel), bild.text(), dauer, stufe);
 }
 
 std::error_code Dateisystem::loeschen(std::string_view pfad) const

@@ -20,6 +20,10 @@ namespace jorv {
 /// The step of reading or writing a file that failed; messages tell them apart.
 enum class Dateistufe { gut, oeffnen, lesen, schreiben, schliessen };
 
+/// Whether a written file must outlive a power failure. Fluechtig is for what a run makes anew anyway: whole or not at
+/// all for every program that looks, but not flushed to the disk.
+enum class Dauer { fest, fluechtig };
+
 struct Gelesen {
     std::string text;
     Dateistufe stufe = Dateistufe::oeffnen;
@@ -64,13 +68,16 @@ public:
     Abbild abbilden(std::string_view pfad, std::error_code& fehler) const;
 
     /// Replaces or creates the file whole. A target that is no regular file is refused, a symbolic link is followed.
-    [[nodiscard]] std::error_code schreiben(std::string_view pfad, std::string_view bytes) const;
+    [[nodiscard]] std::error_code schreiben(std::string_view pfad, std::string_view bytes,
+                                            Dauer dauer = Dauer::fest) const;
     /// The same, with the step that failed: oeffnen (it couldn't be created), schreiben, schliessen.
     [[nodiscard]] Dateistufe schreiben_stufenweise(std::string_view pfad, std::string_view bytes) const;
     /// Appends (creating the file) and flushes to the disk. A failed append takes the bytes back.
-    [[nodiscard]] std::error_code anhaengen(std::string_view pfad, std::string_view bytes) const;
+    [[nodiscard]] std::error_code anhaengen(std::string_view pfad, std::string_view bytes,
+                                            Dauer dauer = Dauer::fest) const;
     /// Copies a file, replacing the target whole. A file copied onto itself stays as it is.
-    [[nodiscard]] std::error_code kopieren(std::string_view von, std::string_view nach) const;
+    [[nodiscard]] std::error_code kopieren(std::string_view von, std::string_view nach,
+                                           Dauer dauer = Dauer::fest) const;
     /// Deletes a file, also a read-only one.
     [[nodiscard]] std::error_code loeschen(std::string_view pfad) const;
 
@@ -86,8 +93,9 @@ public:
     void reste_wegraeumen(std::string_view ordner) const;
 
 private:
-    std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes, Dateistufe& stufe) const;
-    std::error_code alles_schreiben(int nummer, std::string_view bytes) const;
+    std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes, Dauer dauer,
+                             Dateistufe& stufe) const;
+    std::error_code alles_schreiben(int nummer, std::string_view bytes, Dauer dauer) const;
 
     Laufwerke m_laufwerke;
     const Systemaufrufe* m_aufrufe;

@@ -40,7 +40,7 @@ Abbild Arbeitsordner::lesen(std::string_view name, std::error_code& fehler) cons
 
 bool Arbeitsordner::schreiben(std::string_view name, std::string_view bytes) const
 {
-    return !m_dateien.schreiben(pfad(name), bytes);
+    return !m_dateien.schreiben(pfad(name), bytes, Dauer::fluechtig);
 }
 
 bool Arbeitsordner::loeschen(std::string_view name) const

@@ -33,13 +33,14 @@ Ausgang starten(Lage& lage)
     return ist_fehler(start(lage.g, wahl)) ? Ausgang::misslungen : Ausgang::gut;
 }
 
-Ausgang verfahren_oeffnen(Lage& lage)
+// The name in the list of the number that the command was given.
+Ausgang verfahren_finden(Lage& lage, std::string& name)
 {
     const auto nummer = nummer_aus_wort(lage.wort(0));
     if (!nummer) return lage.falsch(verkettet(lage.wort(0), " ist keine Nummer eines Verfahrens."));
-    const std::string name = Name_zu_Nummer(lage.g, *nummer);
+    name = Name_zu_Nummer(lage.g, *nummer);
     if (name.empty()) return lage.stop(verkettet("Ein Verfahren mit der Nummer ", *nummer, " gibt es nicht!"));
-    return ist_fehler(Verfahren_oeffnen(lage.g, name)) ? Ausgang::misslungen : Ausgang::gut;
+    return Ausgang::gut;
 }
 
 // The command itself. Its own word counts, and any stop message that it showed.
@@ -58,8 +59,12 @@ Ausgang mit_einstellungen(Lage& lage)
 {
     if (const Ausgang ausgang = starten(lage); ausgang != Ausgang::gut) return ausgang;
     const Grundlage grundlage = lage.aufruf.befehl->grundlage;
+    std::string name;
+    if (grundlage == Grundlage::verfahren)
+        if (const Ausgang ausgang = verfahren_finden(lage, name); ausgang != Ausgang::gut) return ausgang;
     if (grundlage >= Grundlage::katalog) erste_aktivierung(lage.g);
-    Ausgang ausgang = grundlage == Grundlage::verfahren ? verfahren_oeffnen(lage) : Ausgang::gut;
+    Ausgang ausgang = Ausgang::gut;
+    if (grundlage == Grundlage::verfahren && ist_fehler(Verfahren_oeffnen(lage.g, name))) ausgang = Ausgang::misslungen;
     if (ausgang == Ausgang::gut) ausgang = ausfuehren(lage);
     if (ausgang == Ausgang::falscher_aufruf) return ausgang;
     return ist_fehler(ini_schreiben_START(lage.g)) ? Ausgang::misslungen : ausgang;

@@ -60,9 +60,14 @@ pruefen() {
     einrichten
     bauen
     schritt "Prüfen"
-    local auswahl=(-LE lang)
-    [[ ${1:-} == --lang ]] && auswahl=()
-    ctest --test-dir "$bau" -j "$kerne" --output-on-failure --no-tests=error "${auswahl[@]}"
+    local ohne='lang|schluss'
+    [[ ${1:-} == --lang ]] && ohne=schluss
+    # Was die Prüfungen zeigen, sammelt dieser Ordner; die Schlussprüfung sucht darin jeden Meldungstext der Quellen.
+    export JORV_MELDUNGEN=$bau/meldungen
+    rm -rf "$JORV_MELDUNGEN"
+    mkdir -p "$JORV_MELDUNGEN"
+    ctest --test-dir "$bau" -j "$kerne" --output-on-failure --no-tests=error -LE "$ohne"
+    ctest --test-dir "$bau" --output-on-failure --no-tests=error -L schluss
 }
 
 # Dieselbe Angabe, wie die Verfahren sie tragen: Laufwerk Z: ist die Wurzel, Windows-1252.

@@ -2,6 +2,7 @@
 // texts shown lie in the folder JORV_MELDUNGEN (written by the tests' screen).
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <filesystem>
@@ -33,6 +34,24 @@ constexpr std::array<std::string_view, 22> kennzeichen = {
 struct Text {
     std::string datei, text;
 };
+
+// Literals that look like messages and are none, or that no way leads to.
+struct Ausnahme {
+    std::string_view datei, teil, grund;
+};
+constexpr std::array<Ausnahme, 5> ausnahmen = {
+    {{"antennentest.cpp", "Fehler beim Abgleich der Antennen-Daten zwischen:", "line of the short protocol"},
+     {"antennentest.cpp", " ist nicht in der Antennendatei vorhanden!", "line of the short protocol"},
+     {"antennentest.cpp", "nicht in der Antennendatei vorhanden!", "line of the short protocol"},
+     {"antennentest.cpp", "x) in der Antennendatei vorhanden!", "line of the short protocol"},
+     {"verfahren.cpp", "Verfahren überschreiben?", "a folder that holds the file is not empty and refused before"}}};
+
+bool ist_ausnahme(const Text& text)
+{
+    return std::any_of(ausnahmen.begin(), ausnahmen.end(), [&](const Ausnahme& a) {
+        return text.datei == a.datei && text.text.find(a.teil) != std::string::npos;
+    });
+}
 
 std::string ganz_lesen(const fs::path& pfad)
 {
@@ -107,7 +126,9 @@ TEST(Schluss_Meldungen, JederMeldungstextWurdeInEinemTestGezeigt)
     for (const auto& eintrag : fs::directory_iterator(gezeigt_in)) gezeigt += ganz_lesen(eintrag.path()) + '\n';
     const auto texte = meldungstexte();
     ASSERT_GT(texte.size(), 100u) << "the sources hold hardly any message: is the search still right?";
-    for (const auto& [datei, text] : texte) {
+    for (const auto& fund : texte) {
+        if (ist_ausnahme(fund)) continue;
+        const auto& [datei, text] = fund;
         const auto bytes = text_aus_utf8(text);
         ASSERT_TRUE(bytes) << datei << ": " << text;
         EXPECT_NE(gezeigt.find(*bytes), std::string::npos) << datei << ": no test has shown: " << text;

@@ -15,4 +15,8 @@ std::string batch_cd(std::string_view verzeichnis);
 /// "path %path%;" and the directory of the suite, recoded for the console.
 std::string batch_path(std::string_view exe_verzeichnis);
 
+/// The call file that is started in place of a batch: a waiting text of six lines, then the batch's path in quotes,
+/// recoded for the console. Lines end in CR LF.
+std::string batch_aufruf(std::string_view batchdatei);
+
 }  // namespace jorv

@@ -5,6 +5,7 @@
 
 #include "plattform/text.h"
 #include "plattform/zahl.h"
+#include "suite/arbeitsordner.h"
 #include "suite/felder.h"
 
 namespace jorv::suite {
@@ -46,17 +47,6 @@ bool ohne_wirkung(Aufruf&, std::string_view rest)
     return rest.empty();
 }
 
-Worte zerlegt(std::string_view liste)
-{
-    Worte teile;
-    while (!liste.empty()) {
-        const auto komma = std::min(liste.find(','), liste.size());
-        if (komma > 0) teile.emplace_back(liste.substr(0, komma));
-        liste.remove_prefix(std::min(komma + 1, liste.size()));
-    }
-    return teile;
-}
-
 constexpr std::array<Option<Wav2Aufruf>, 6> WAV2_OPTIONEN = {{
     {"+PRO", ohne_wirkung<Wav2Aufruf>},
     {"+E", ohne_wirkung<Wav2Aufruf>},
@@ -85,7 +75,7 @@ bool satellit(Wa2Aufruf& ziel, std::string_view rest)
 
 bool feldliste(Wa2Aufruf& ziel, std::string_view rest)
 {
-    ziel.felder = zerlegt(rest);
+    ziel.felder = liste_zerlegt(rest);
     return !ziel.felder.empty() && std::all_of(ziel.felder.begin(), ziel.felder.end(), feld_bekannt);
 }
 
@@ -106,6 +96,32 @@ constexpr std::array<Option<Wa2Aufruf>, 15> WA2_OPTIONEN = {{
     {"-e", [](Wa2Aufruf& z, std::string_view r) { return ganze_zahl(z.elevation, r, 0, 89); }},
     {"-M", [](Wa2Aufruf& z, std::string_view r) { return ganze_zahl(z.ohne_anfang, r, 0, 100000); }},
     {"-N", [](Wa2Aufruf& z, std::string_view r) { return ganze_zahl(z.ohne_ende, r, 0, 100000); }},
+}};
+
+bool virtuelle_namen(Wav2Aufruf& ziel, std::string_view rest)
+{
+    const Worte namen = liste_zerlegt(rest);
+    if (namen.size() != 2) return false;
+    ziel.virt = namen[0];
+    ziel.rover = namen[1];
+    return true;
+}
+
+constexpr std::array<Option<Wav2Aufruf>, 6> WASOFT_VIRTUELL = {{
+    {"+V", virtuelle_namen},
+    {"+A", [](Wav2Aufruf& z, std::string_view r) { return dateiname(z.antennendatei, r); }},
+    {"+C", [](Wav2Aufruf& z, std::string_view r) { return dateiname(z.koordinatendatei, r); }},
+    {"-e", [](Wav2Aufruf& z, std::string_view r) { return ganze_zahl(z.elevation, r, 0, 89); }},
+    {"+b", [](Wav2Aufruf& z, std::string_view r) { return uhrzeit(z.beginn, r); }},
+    {"+e", [](Wav2Aufruf& z, std::string_view r) { return uhrzeit(z.ende, r); }},
+}};
+
+constexpr std::array<Option<Wa2Aufruf>, 5> WASOFT_BASISLINIE = {{
+    {"+A", [](Wa2Aufruf& z, std::string_view r) { return dateiname(z.antennendatei, r); }},
+    {"+C", [](Wa2Aufruf& z, std::string_view r) { return dateiname(z.koordinatendatei, r); }},
+    {"-0", [](Wa2Aufruf& z, std::string_view r) { return z.art = Loesungsart::l0, r.empty(); }},
+    {"+R", [](Wa2Aufruf& z, std::string_view r) { return ganze_zahl(z.takt, r, 1, 86400); }},
+    {"-e", [](Wa2Aufruf& z, std::string_view r) { return ganze_zahl(z.elevation, r, 0, 89); }},
 }};
 
 template <typename Aufruf>
@@ -130,7 +146,25 @@ bool optionen_lesen(Aufruf& ziel, std::span<const std::string> worte, std::span<
     return true;
 }
 
+bool stationen_lesen(Wav2Aufruf& ziel, std::string_view liste, std::string& grund)
+{
+    for (const std::string& station : liste_zerlegt(liste)) ziel.stationen.push_back(station.substr(0, 4));
+    if (ziel.stationen.empty()) grund = "keine Referenzstation angegeben";
+    return !ziel.stationen.empty();
+}
+
 }  // namespace
+
+Worte liste_zerlegt(std::string_view liste)
+{
+    Worte teile;
+    while (!liste.empty()) {
+        const auto komma = std::min(liste.find(','), liste.size());
+        if (komma > 0) teile.emplace_back(liste.substr(0, komma));
+        liste.remove_prefix(std::min(komma + 1, liste.size()));
+    }
+    return teile;
+}
 
 std::optional<std::string> satellitenname(std::string_view wort)
 {
@@ -154,11 +188,8 @@ std::optional<Wav2Aufruf> wav2_aufruf(const Worte& worte, std::string& grund)
         return {};
     }
     aufruf.rover = worte[0];
-    for (const std::string& station : zerlegt(worte[1])) aufruf.stationen.push_back(station.substr(0, 4));
-    if (aufruf.stationen.empty()) {
-        grund = "keine Referenzstation angegeben";
-        return {};
-    }
+    aufruf.virt = verkettet("virt", mitte(aufruf.rover, 5, 3));
+    if (!stationen_lesen(aufruf, worte[1], grund)) return {};
     const std::span rest = std::span(worte).subspan(2);
     if (!optionen_lesen<Wav2Aufruf>(aufruf, rest, WAV2_OPTIONEN, grund)) return {};
     return aufruf;
@@ -177,6 +208,37 @@ std::optional<Wa2Aufruf> wa2_aufruf(const Worte& worte, std::string& grund)
     aufruf.rover = worte[1];
     const std::span rest = std::span(worte).subspan(2);
     if (!optionen_lesen<Wa2Aufruf>(aufruf, rest, WA2_OPTIONEN, grund)) return {};
+    return aufruf;
+}
+
+std::optional<WasoftAufruf> wasoft_aufruf(const Worte& worte, std::string& grund)
+{
+    if (worte.size() < 3) {
+        grund =
+            "wasoft TAGSITZUNG STATION,STATION,... +V<Name>,<Rover> +A<Antennendatei> +C<Koordinatendatei> +b<HHMMSS> "
+            "+e<HHMMSS>, wasoft BASIS ROVER +A<Antennendatei> +C<Koordinatendatei> -0 +R<s> -e<Grad>";
+        return {};
+    }
+    if (std::find(worte.begin(), worte.end(), "+k") != worte.end()) {
+        grund = "die Modelldatei (+k) kann noch nicht berechnet werden";
+        return {};
+    }
+    const std::span rest = std::span(worte).subspan(2);
+    if (std::any_of(rest.begin(), rest.end(), [](const std::string& wort) { return wort.starts_with("+V"); })) {
+        Wav2Aufruf aufruf;
+        if (!stationen_lesen(aufruf, worte[1], grund)) return {};
+        if (!optionen_lesen<Wav2Aufruf>(aufruf, rest, WASOFT_VIRTUELL, grund)) return {};
+        aufruf.virt += worte[0];
+        aufruf.protokoll_datei = aufruf.virt + ".vrt";
+        return aufruf;
+    }
+    Wa2Aufruf aufruf;
+    aufruf.basis = worte[0];
+    aufruf.rover = worte[1];
+    if (!optionen_lesen<Wa2Aufruf>(aufruf, rest, WASOFT_BASISLINIE, grund)) return {};
+    aufruf.ext_datei.clear();
+    aufruf.protokoll_datei.clear();
+    aufruf.loesung_datei = verkettet(stamm(aufruf.rover), ".prt");
     return aufruf;
 }
 

@@ -8,6 +8,7 @@
 #include "suite/entscheidung.h"
 #include "suite/ergebnistext.h"
 #include "suite/felder.h"
+#include "suite/koordinaten.h"
 #include "suite/spalten.h"
 #include "suite/stationen.h"
 #include "suite/virtuelle_station.h"
@@ -83,6 +84,8 @@ bool Lauf::dateien_lesen()
 
 bool Lauf::orte_pruefen()
 {
+    const Koordinaten koordinaten(m_ordner, m_aufruf.koordinatendatei, m_protokoll);
+    m_basis.daten.kopf.ort = koordinaten.ort(m_basis, m_protokoll);
     for (const Beobachtungsdatei* datei : {&m_basis, &m_rover})
         if (!ist_erdort(datei->daten.kopf.ort))
             return abbruch(verkettet("Die Datei ", datei->name, u8" enthält keine Näherungskoordinaten!"_w));
@@ -191,7 +194,9 @@ bool Lauf::auftrag_fuellen()
     m_auftrag.basis_text = ersetzt(m_ordner.lesen(m_basis.name, fehler_basis).text(), "\r", "");
     m_auftrag.rover_text = ersetzt(m_ordner.lesen(m_rover.name, fehler_rover).text(), "\r", "");
     if (fehler_basis || fehler_rover) return abbruch("Die Beobachtungsdateien sind nicht mehr lesbar!");
-    const Navigation navigation = navigation_suchen(m_ordner, {m_basis.name, m_rover.name}, false, m_protokoll);
+    // A virtual station's type names no year while a batch works on it; its navigation file has the rover's.
+    const std::string basis = verkettet(stamm(m_basis.name), rechts(m_rover.name, 4));
+    const Navigation navigation = navigation_suchen(m_ordner, {m_basis.name, basis, m_rover.name}, false, m_protokoll);
     if (navigation.saetze.empty()) return abbruch("Keine Navigationsdatei gefunden!");
     m_auftrag.navigation_text = ersetzt(navigation_text(navigation), "\r", "");
     m_auftrag.basis = m_basis.daten.kopf;
@@ -346,7 +351,7 @@ int wa2(const Wa2Aufruf& aufruf, const Arbeitsordner& ordner, const Loeserumgebu
     protokoll.zeile();
     bool gut = true;
     for (const std::string& alt : {aufruf.ext_datei, aufruf.loesung_datei}) {
-        if (ordner.loeschen(alt)) continue;
+        if (alt.empty() || ordner.loeschen(alt)) continue;
         protokoll.fehler(verkettet(u8"Die ältere Datei "_w, alt, u8" konnte nicht gelöscht werden!"_w));
         gut = false;
     }
@@ -358,7 +363,7 @@ int wa2(const Wa2Aufruf& aufruf, const Arbeitsordner& ordner, const Loeserumgebu
         protokoll.meldung(kurzmeldung(*ergebnis));
     }
     gut = ergebnis && dateien_schreiben(aufruf, ordner, *ergebnis, protokoll);
-    if (!ordner.schreiben(aufruf.protokoll_datei, protokoll.text())) {
+    if (!aufruf.protokoll_datei.empty() && !ordner.schreiben(aufruf.protokoll_datei, protokoll.text())) {
         protokoll.fehler(verkettet("Die Datei ", aufruf.protokoll_datei, " konnte nicht geschrieben werden!"));
         gut = false;
     }

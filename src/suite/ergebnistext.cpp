@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <utility>
 
 #include "plattform/text.h"
@@ -37,6 +38,52 @@ std::string zeile(std::string_view name, std::initializer_list<std::string> wert
     for (const std::string& wert : werte) text.append(wert.size() < 15 ? 15 - wert.size() : 1, ' ').append(wert);
     return text.append("\r\n");
 }
+
+constexpr std::string_view WERTMARKE = "WERT ", BEGINN = "beginn", ZONE = "zone";
+constexpr double SPAETESTENS = 1e11;  // s since 1980, so that a calendar still holds it
+
+struct Wortwert {
+    std::string_view name;
+    std::string Ergebnis::*ziel;
+};
+
+constexpr std::array<Wortwert, 5> WORTWERTE = {{{"basis", &Ergebnis::basis_datei},
+                                                {"rover", &Ergebnis::rover_datei},
+                                                {"marke", &Ergebnis::rover_marke},
+                                                {"typ", &Ergebnis::loesungstyp},
+                                                {"antenne", &Ergebnis::antennentyp}}};
+
+struct Zahlwert {
+    std::string_view name;
+    double& (*ziel)(Ergebnis& e);
+};
+
+constexpr std::array<Zahlwert, 24> ZAHLWERTE = {{
+    {"bx", [](Ergebnis& e) -> double& { return e.basis.x; }},
+    {"by", [](Ergebnis& e) -> double& { return e.basis.y; }},
+    {"bz", [](Ergebnis& e) -> double& { return e.basis.z; }},
+    {"rx", [](Ergebnis& e) -> double& { return e.rover.x; }},
+    {"ry", [](Ergebnis& e) -> double& { return e.rover.y; }},
+    {"rz", [](Ergebnis& e) -> double& { return e.rover.z; }},
+    {"sx", [](Ergebnis& e) -> double& { return e.sigma.x; }},
+    {"sy", [](Ergebnis& e) -> double& { return e.sigma.y; }},
+    {"sz", [](Ergebnis& e) -> double& { return e.sigma.z; }},
+    {"rxy", [](Ergebnis& e) -> double& { return e.r_xy; }},
+    {"ryz", [](Ergebnis& e) -> double& { return e.r_yz; }},
+    {"rzx", [](Ergebnis& e) -> double& { return e.r_zx; }},
+    {"se", [](Ergebnis& e) -> double& { return e.sigma_enu.e; }},
+    {"sn", [](Ergebnis& e) -> double& { return e.sigma_enu.n; }},
+    {"sh", [](Ergebnis& e) -> double& { return e.sigma_enu.u; }},
+    {"minuten", [](Ergebnis& e) -> double& { return e.minuten; }},
+    {"sigma0", [](Ergebnis& e) -> double& { return e.sigma0; }},
+    {"amb", [](Ergebnis& e) -> double& { return e.mehrdeutigkeiten; }},
+    {"satelliten", [](Ergebnis& e) -> double& { return e.satelliten; }},
+    {"pdop_beste", [](Ergebnis& e) -> double& { return e.pdop_beste; }},
+    {"pdop_mittel", [](Ergebnis& e) -> double& { return e.pdop_mittel; }},
+    {"umgewichtet", [](Ergebnis& e) -> double& { return e.umgewichtet; }},
+    {"verhaeltnis", [](Ergebnis& e) -> double& { return e.verhaeltnis; }},
+    {"antennenhoehe", [](Ergebnis& e) -> double& { return e.antennenhoehe; }},
+}};
 
 }  // namespace
 
@@ -93,52 +140,56 @@ std::string ergebnistext(const Ergebnis& e)
 
 std::string loesungstext(const Ergebnis& e)
 {
+    Ergebnis quelle = e;  // the tables name places to write to
     std::string text = ergebnistext(e) + "\r\n\r\n";
     const auto wort = [&](std::string_view name, std::string_view wert) {
-        text.append(verkettet("WERT ", name, "=", wert, "\r\n"));
+        text.append(WERTMARKE).append(name).append("=").append(wert).append("\r\n");
     };
-    wort("basis", e.basis_datei);
-    wort("rover", e.rover_datei);
-    wort("marke", e.rover_marke);
-    wort("typ", e.loesungstyp);
-    wort("antenne", e.antennentyp);
-    const std::array<std::pair<std::string_view, double>, 33> werte = {{
-        {"bx", e.basis.x},
-        {"by", e.basis.y},
-        {"bz", e.basis.z},
-        {"rx", e.rover.x},
-        {"ry", e.rover.y},
-        {"rz", e.rover.z},
-        {"sx", e.sigma.x},
-        {"sy", e.sigma.y},
-        {"sz", e.sigma.z},
-        {"rxy", e.r_xy},
-        {"ryz", e.r_yz},
-        {"rzx", e.r_zx},
-        {"se", e.sigma_enu.e},
-        {"sn", e.sigma_enu.n},
-        {"sh", e.sigma_enu.u},
-        {"beginn", static_cast<double>(e.beginn.sekunde) + e.beginn.bruch},
+    for (const Wortwert& w : WORTWERTE) wort(w.name, quelle.*w.ziel);
+    for (const Zahlwert& z : ZAHLWERTE) wort(z.name, zahl_text(z.ziel(quelle)));
+    const GpsZeit tag = auf_sekunde(e.beginn);
+    const std::array<std::pair<std::string_view, double>, 9> weitere = {{
+        {BEGINN, static_cast<double>(e.beginn.sekunde) + e.beginn.bruch},
         {"ende", static_cast<double>(e.ende.sekunde) + e.ende.bruch},
-        {"doy", tag_im_jahr(auf_sekunde(e.beginn))},
-        {"woche", woche(auf_sekunde(e.beginn))},
-        {"wochentag", wochentag(auf_sekunde(e.beginn))},
-        {"minuten", e.minuten},
-        {"zone", e.zone},
-        {"sigma0", e.sigma0},
-        {"amb", e.mehrdeutigkeiten},
-        {"satelliten", e.satelliten},
-        {"pdop_beste", e.pdop_beste},
-        {"pdop_mittel", e.pdop_mittel},
-        {"umgewichtet", e.umgewichtet},
+        {"doy", tag_im_jahr(tag)},
+        {"woche", woche(tag)},
+        {"wochentag", wochentag(tag)},
+        {ZONE, e.zone},
         {"epochen", static_cast<double>(e.epochen)},
         {"epochen_fest", static_cast<double>(e.epochen_fest)},
-        {"verhaeltnis", e.verhaeltnis},
-        {"antennenhoehe", e.antennenhoehe},
         {"strecke", laenge(e.basislinie())},
     }};
-    for (const auto& [name, wert] : werte) wort(name, zahl_text(wert));
+    for (const auto& [name, wert] : weitere) wort(name, zahl_text(wert));
     return text;
+}
+
+std::optional<Ergebnis> loesung_lesen(std::string_view text)
+{
+    std::map<std::string_view, std::string_view> worte;
+    Zeilenleser leser(text);
+    while (const auto zeile = leser.naechste()) {
+        const auto gleich = zeile->find('=');
+        if (!zeile->starts_with(WERTMARKE) || gleich == std::string_view::npos) continue;
+        worte[zeile->substr(WERTMARKE.size(), gleich - WERTMARKE.size())] = zeile->substr(gleich + 1);
+    }
+    Ergebnis e;
+    bool ganz = true;
+    for (const Wortwert& w : WORTWERTE) {
+        ganz = ganz && worte.contains(w.name);
+        e.*w.ziel = worte[w.name];
+    }
+    const auto zahl = [&](std::string_view name) {
+        const auto wert = spaltenzahl(worte[name]);
+        ganz = ganz && wert;
+        return wert.value_or(0.0);
+    };
+    for (const Zahlwert& z : ZAHLWERTE) z.ziel(e) = zahl(z.name);
+    const double beginn = zahl(BEGINN), zone = zahl(ZONE);
+    ganz = ganz && beginn >= 0 && beginn < SPAETESTENS && zone >= 1 && zone <= 60;
+    if (!ganz) return {};
+    e.beginn = verschoben({}, beginn);
+    e.zone = static_cast<int>(zone);
+    return e;
 }
 
 std::string basislinientext(const Ergebnis& e)

@@ -44,7 +44,7 @@ struct Loeserumgebung {
 };
 
 struct Loeserlauf {
-    Loeserausgabe ausgabe;      // empty without a solution
+    Loeserausgabe ausgabe;  // empty without a solution
     bool zeit_abgelaufen = false;
     std::string fehler;         // German reason why the run gave nothing, else empty
     std::string fehlerausgabe;  // last lines of the solver's standard error

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "plattform/text.h"
+#include "plattform/umgebung.h"
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -24,6 +25,15 @@ std::optional<Worte> worte(int anzahl, const char* const* argumente)
 #endif
     }
     return liste;
+}
+
+std::filesystem::path loeserprogramm()
+{
+#ifdef _WIN32
+    return programm_finden("rnx2rtkp.exe");
+#else
+    return programm_finden("rnx2rtkp");
+#endif
 }
 
 void ausgeben(std::string_view bytes)

@@ -1,6 +1,7 @@
 #pragma once
 // What the mains of the suite share: the words of the command line in Windows-1252 and the output as it stands.
 
+#include <filesystem>
 #include <optional>
 #include <string_view>
 
@@ -13,6 +14,12 @@ std::optional<Worte> worte(int anzahl, const char* const* argumente);
 
 /// Bytes to standard output without any change of line ends.
 void ausgeben(std::string_view bytes);
+
+/// The solver rnx2rtkp beside our own programs or on the search path; empty when there is none.
+std::filesystem::path loeserprogramm();
+
+/// Why `worte` gave nothing.
+inline constexpr std::string_view FREMDE_ZEICHEN = "Die Angaben enthalten Zeichen, die Windows-1252 nicht kennt.";
 
 /// Exit status of a wrong command line.
 inline constexpr int FALSCHER_AUFRUF = 2;

@@ -140,7 +140,7 @@ Navigation navigation_suchen(const Arbeitsordner& ordner, const std::vector<std:
         if (ordner.vorhanden(name)) lesen(name);
     }
     if (!navigation.saetze.empty() || beobachtungsdateien.empty()) return navigation;
-    const std::string jahr(rechts(ohne_ende(beobachtungsdateien.front(), 1), 2));
+    const std::string jahr(rechts(ohne_ende(beobachtungsdateien.back(), 1), 2));
     for (const std::string& name : ordner.suchen(verkettet("*.", jahr, "n"))) lesen(name);
     return navigation;
 }

@@ -42,7 +42,7 @@ std::optional<Beobachtungsdatei> station_lesen(const Arbeitsordner& ordner, cons
                                                const Zeitspanne& spanne, Protokoll& protokoll);
 
 /// GPS navigation: of the first stem that has a file, or of all stems when `alle` is set; without any, every
-/// navigation file of the folder for that year.
+/// navigation file of the folder for the year of the last name.
 Navigation navigation_suchen(const Arbeitsordner& ordner, const std::vector<std::string>& beobachtungsdateien,
                              bool alle, Protokoll& protokoll);
 

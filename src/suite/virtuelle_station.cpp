@@ -4,6 +4,7 @@
 
 #include "plattform/text.h"
 #include "plattform/zahl.h"
+#include "suite/koordinaten.h"
 #include "suite/rinex_schreiben.h"
 #include "suite/spalten.h"
 #include "suite/stationen.h"
@@ -133,6 +134,7 @@ bool Lauf::rover_lesen()
 
 std::vector<Kandidat> Lauf::kandidaten()
 {
+    const Koordinaten koordinaten(m_ordner, m_aufruf.koordinatendatei, m_protokoll);
     std::vector<Kandidat> alle;
     for (const std::string& station : m_aufruf.stationen) {
         Kandidat k{station, stationsdateien(m_ordner, station, m_aufruf.rover, m_spanne), {}, 0.0};
@@ -142,9 +144,9 @@ std::vector<Kandidat> Lauf::kandidaten()
         }
         const auto kopf = datei_lesen(m_ordner, k.dateien.front(), Umfang::kopf, m_protokoll);
         if (!kopf) continue;
-        k.ort = kopf->daten.kopf.ort;
+        k.ort = koordinaten.ort(*kopf, m_protokoll);
         if (!ist_erdort(k.ort)) {
-            m_protokoll.warnung(verkettet("Die Station ", station, " hat keine Koordinaten im Dateikopf."));
+            m_protokoll.warnung(verkettet("Die Station ", station, " hat keine Koordinaten."));
             continue;
         }
         k.strecke = laenge(k.ort - m_virtuell);
@@ -223,7 +225,7 @@ void Lauf::kopf_setzen(RinexBeobachtung& daten, const Ort& nach)
 
 bool Lauf::ausgeben(const RinexBeobachtung& daten)
 {
-    const std::string name = verkettet("virt", mitte(m_aufruf.rover, 5, 3), rechts(m_aufruf.rover, 4));
+    const std::string name = m_aufruf.virt + std::string(rechts(m_aufruf.rover, 4));
     const std::string text = beobachtung_text(daten, PROGRAMM, m_uhr.jetzt());
     const std::string nav = mit_art(name, 'n');
     if (!m_ordner.schreiben(nav, navigation_text(m_navigation)))
@@ -291,13 +293,13 @@ int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, 
     protokoll.zeile();
     bool gut = true;
     for (const char art : {'o', 'n'}) {
-        const std::string alt = mit_art(verkettet("virt", mitte(aufruf.rover, 5, 3), rechts(aufruf.rover, 4)), art);
+        const std::string alt = mit_art(verkettet(aufruf.virt, rechts(aufruf.rover, 4)), art);
         gut = gut && ordner.loeschen(alt);
     }
     if (!gut) protokoll.fehler(u8"Eine ältere virtuelle Station konnte nicht gelöscht werden!"_w);
     gut = gut && Lauf(aufruf, ordner, uhr, protokoll).rechnen();
-    if (!ordner.schreiben(WAV2_PROTOKOLL, protokoll.text())) {
-        protokoll.fehler(verkettet("Die Datei ", WAV2_PROTOKOLL, " konnte nicht geschrieben werden!"));
+    if (!ordner.schreiben(aufruf.protokoll_datei, protokoll.text())) {
+        protokoll.fehler(verkettet("Die Datei ", aufruf.protokoll_datei, " konnte nicht geschrieben werden!"));
         gut = false;
     }
     return gut ? 0 : 1;

@@ -13,8 +13,6 @@
 
 namespace jorv::suite {
 
-inline constexpr std::string_view WAV2_PROTOKOLL = "wav2log.txt";
-
 /// The real station behind a virtual one. The atmosphere's errors grow with this distance although the file's own place
 /// is the rover's, so whoever judges a solution asks for it.
 struct Herkunft {
@@ -27,8 +25,8 @@ struct Herkunft {
 std::string herkunft_text(const Herkunft& herkunft);
 std::optional<Herkunft> herkunft_lesen(std::string_view kommentar);
 
-/// Does the whole work: virt<DDD>.<yyo>, virt<DDD>.<yyn> and wav2log.txt in the folder. Exit status 0, or 1 when there
-/// is no virtual station; then the reason is in the protocol and no virt file is left.
+/// Does the whole work: <virt>.<yyo>, <virt>.<yyn> and the protocol file in the folder. Exit status 0, or 1 when there
+/// is no virtual station; then the reason is in the protocol and no observation or navigation file is left.
 int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll);
 
 }  // namespace jorv::suite

@@ -2,7 +2,6 @@
 
 #include "plattform/text.h"
 #include "plattform/uhr.h"
-#include "plattform/umgebung.h"
 #include "suite/basislinie.h"
 #include "suite/programm.h"
 
@@ -10,17 +9,13 @@ int main(int anzahl, char** argumente)
 {
     using namespace jorv;
     suite::Protokoll protokoll;
-    std::string grund = "Die Angaben enthalten Zeichen, die Windows-1252 nicht kennt.";
+    std::string grund(suite::FREMDE_ZEICHEN);
     const auto worte = suite::worte(anzahl, argumente);
     const auto aufruf = worte ? suite::wa2_aufruf(*worte, grund) : std::nullopt;
     int status = suite::FALSCHER_AUFRUF;
     if (aufruf) {
-#ifdef _WIN32
-        const auto loeser = programm_finden("rnx2rtkp.exe");
-#else
-        const auto loeser = programm_finden("rnx2rtkp");
-#endif
-        status = suite::wa2(*aufruf, suite::Arbeitsordner(), suite::Loeserumgebung{loeser}, Systemuhr(), protokoll);
+        const suite::Loeserumgebung umgebung{suite::loeserprogramm()};
+        status = suite::wa2(*aufruf, suite::Arbeitsordner(), umgebung, Systemuhr(), protokoll);
     } else {
         protokoll.fehler(verkettet("wa2: ", grund));
     }

@@ -10,7 +10,7 @@ int main(int anzahl, char** argumente)
     using namespace jorv;
     suite::Protokoll protokoll;
     const suite::Arbeitsordner ordner;
-    std::string grund = "Die Angaben enthalten Zeichen, die Windows-1252 nicht kennt.";
+    std::string grund(suite::FREMDE_ZEICHEN);
     const auto worte = suite::worte(anzahl, argumente);
     const auto aufruf = worte ? suite::wav2_aufruf(*worte, grund) : std::nullopt;
     int status = suite::FALSCHER_AUFRUF;
@@ -18,7 +18,7 @@ int main(int anzahl, char** argumente)
         status = suite::wav2(*aufruf, ordner, Systemuhr(), protokoll);
     } else {
         protokoll.fehler(verkettet("wav2: ", grund));
-        (void)ordner.schreiben(suite::WAV2_PROTOKOLL, protokoll.text());
+        (void)ordner.schreiben(suite::Wav2Aufruf{}.protokoll_datei, protokoll.text());
     }
     suite::ausgeben(protokoll.ausgabe());
     return status;

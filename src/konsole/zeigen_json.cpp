@@ -3,6 +3,7 @@
 
 #include "konsole/begruendung.h"
 #include "konsole/zeigen.h"
+#include "modell/Menue.h"
 #include "plattform/text.h"
 
 namespace jorv {
@@ -204,11 +205,14 @@ static Json als_json(const Begruendung& b)
 
 static Json menue(const Global& g)
 {
-    const auto eintrag = [](bool aktiv) { return Json{{"aktiv", aktiv}}; };
-    return {{"m_datei_loeschen", eintrag(g.menue.m_datei_loeschen)},
-            {"m_datei_sichern", eintrag(g.menue.m_datei_sichern)},
-            {"m_grund_zeitfenster_1h", eintrag(g.menue.m_grund_zeitfenster_1h)},
-            {"m_grund_EinstellungenAlle", eintrag(g.menue.m_grund_EinstellungenAlle)}};
+    Json alle = Json::object();
+    for (const auto& eintrag : menue_setzen(g))
+        alle[eintrag.Name] = {{"Gruppe", als_json(eintrag.Gruppe)},
+                              {"Text", als_json(eintrag.Text)},
+                              {"an", eintrag.an},
+                              {"sichtbar", eintrag.sichtbar},
+                              {"Haken", eintrag.Haken}};
+    return alle;
 }
 
 namespace {

@@ -5,6 +5,7 @@
 #include "konsole/begruendung.h"
 #include "konsole/zeigen.h"
 #include "modell/Gemeinsam.h"
+#include "modell/Menue.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
 
@@ -155,13 +156,13 @@ std::string baum_text(const Global& g)
 
 std::string menue_text(const Global& g)
 {
-    const auto zustand = [](bool an) { return an ? std::string("an") : std::string("aus"); };
-    Tabelle t({"Befehl", "Zustand"});
-    t.zeile({"m_datei_loeschen", zustand(g.menue.m_datei_loeschen)});
-    t.zeile({"m_datei_sichern", zustand(g.menue.m_datei_sichern)});
-    t.zeile({"m_grund_zeitfenster_1h", zustand(g.menue.m_grund_zeitfenster_1h)});
-    t.zeile({"m_grund_EinstellungenAlle", zustand(g.menue.m_grund_EinstellungenAlle)});
-    return verkettet(u8"Menü\n"_w, t.text());
+    Tabelle t({"Befehl", "Zustand", std::string(u8"Menü"_w), "Eintrag"});
+    for (const auto& e : menue_setzen(g)) {
+        std::string zustand = !e.sichtbar ? "verborgen" : e.an ? "an" : "aus";
+        if (e.Haken) zustand += ", Haken";
+        t.zeile({e.Name, zustand, ersetzt(e.Gruppe, "&", ""), ersetzt(e.Text, "&", "")});
+    }
+    return t.text("");
 }
 
 std::string katalog_text(const Global& g)

@@ -92,7 +92,8 @@ TEST(ZeigenJson, JedesFeldUnterSeinemNamen)
                              "Liste_Name",
                              "tage"})
         EXPECT_TRUE(j[name].is_array()) << name;
-    EXPECT_TRUE(j["Menue"].is_object());
+    EXPECT_EQ(j["Menue"]["m_wasoft_run_n"]["an"], false);
+    EXPECT_EQ(j["Menue"]["m_datei_neu"]["Text"], "&Neues Verfahren...");
     EXPECT_EQ(j["Verfahrensname"], "Muster");
     EXPECT_EQ(j["OBS_R"][0]["Tag"], 167);
     EXPECT_EQ(j["OBS_R"][0]["Antenne"], "R7-00412            JORFELD7 Höhe");

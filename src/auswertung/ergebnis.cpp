@@ -142,4 +142,9 @@ void rover_auswerten_vrs(Global& g, const std::string& rover, int& status)
     rover_auswerten(g, rover, g.MARKER_Info == "S" ? laenge_kurz : laenge_kurz_lang, status);
 }
 
+void rover_auswerten_fremd(Global& g, const std::string& rover, int& status)
+{
+    rover_auswerten(g, rover, laenge_kurz, status);
+}
+
 }  // namespace jorv

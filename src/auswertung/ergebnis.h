@@ -17,4 +17,7 @@ std::string extraktionsdatei(const Global& g, std::string_view rover);
 /// fault before the filing no file that this call created stays behind.
 void rover_auswerten_vrs(Global& g, const std::string& rover, int& status);
 
+/// Mode F: the same, but the head is always cut at 101 characters, also where the batch asks for long point names.
+void rover_auswerten_fremd(Global& g, const std::string& rover, int& status);
+
 }  // namespace jorv

@@ -62,4 +62,22 @@ Fehler koordinaten_datei_schreiben(Global& g)
     return coo_schreiben(g, text);
 }
 
+Fehler koordinaten_datei_rover(Global& g, const std::string& rover)
+{
+    if (Antennenformat(g) != "APC") return Fehler::keiner;
+    const int i = Index_ROVER_VIRT(g, rover);
+    if (i == 0) {
+        stop_melden(g, verkettet("Zum ROVER:", rover, "\nist keine virtuelle Referenzstation zugeordnet!"));
+        return Fehler::gesetzt;
+    }
+    std::string text;
+    const auto zeile = [&text](const Feld<Punkt>& punkte, const Feld<OBS>& beobachtungen, int index) {
+        if (index >= 1 && index <= std::min(punkte.anzahl(), beobachtungen.anzahl()))
+            text += coo_zeile(punkte[index], rechts(beobachtungen[index].Antenne, 20));
+    };
+    zeile(g.V_Punkt, g.OBS_V, g.ROVER_VIRT[i].VIRT_Index);
+    zeile(g.R_Punkt, g.OBS_R, i);
+    return coo_schreiben(g, text);
+}
+
 }  // namespace jorv

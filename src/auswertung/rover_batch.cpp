@@ -5,6 +5,7 @@
 
 #include "auswertung/aufrufdatei.h"
 #include "auswertung/batchkopf.h"
+#include "auswertung/roverzeilen.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
@@ -66,39 +67,37 @@ constexpr std::array<Batchzeile, 14> kopieren_vrs = {{{":kopieren"},
                                                       {"del *.prt"},
                                                       {"goto :ende"}}};
 
+constexpr std::array<Batchzeile, 11> vorbereitung_fremd = {{{"if exist wa2log.txt del wa2log.txt"},
+                                                            {"if exist wa2sol.txt del wa2sol.txt"},
+                                                            {"if exist wa2ext.txt del wa2ext.txt"},
+                                                            {"if not exist jorv_out mkdir jorv_out"},
+                                                            {"cd jorv_out"},
+                                                            {"if not exist dat_ext mkdir dat_ext"},
+                                                            {"if not exist prot_rov mkdir prot_rov"},
+                                                            {"if not exist dat_rov mkdir dat_rov"},
+                                                            {"if not exist krz_rov mkdir krz_rov"},
+                                                            {"if not exist lis_rov mkdir lis_rov"},
+                                                            {"cd .."}}};
+
+// The third line asks for the project's .log, which nobody makes: the run files the protocol of the rover itself.
+constexpr std::array<Batchzeile, 4> protokoll_fremd = {
+    {{"if exist {ROV8}.log type {ROV8}.log >> {VNR}.LIS"},
+     {R"(if exist {VNR}.LIS type {VNR}.LIS >> jorv_out\lis_rov\{VNR}.LIS)"},
+     {R"(if exist {VNR}.log copy {ROV8}.log jorv_out\lis_rov\{ROVER}.LIS)"},
+     {"goto :kopieren"}}};
+
+constexpr std::array<Batchzeile, 9> kopieren_fremd = {{{":kopieren"},
+                                                       {"REM Ergebnisse"},
+                                                       {R"(copy *.ext jorv_out\dat_ext)"},
+                                                       {R"(copy *.LIS jorv_out\lis_rov)"},
+                                                       {"del *.log"},
+                                                       {"REM Rover-Protokolle"},
+                                                       {R"(copy *.prt jorv_out\prot_rov)"},
+                                                       {"del *.prt"},
+                                                       {"goto :ende"}}};
+
 constexpr std::string_view feldliste_kurz = "CU2,DOY,SES,TDM,BSU,STY,AMB,";
 constexpr std::string_view feldliste_lang = "NS2,DOY,SES,SDV,AMB,SVA,PDM,ROB,STY,TDM,AH2,AT2,TSH";
-
-// The parts of a RINEX short name that the lines use; columns are taken literally whatever the name.
-void rover_namen(Batchtext& batch, std::string_view rover)
-{
-    batch.setzen("ROVER", rover);
-    batch.setzen("DDD", mitte(rover, 5, 3));
-    batch.setzen("EXT4", mitte(rover, 9, 4));
-    batch.setzen("ROV8", links(rover, 8));
-    batch.setzen("ROV-4", ohne_ende(rover, 4));
-    batch.setzen("ROV-1", ohne_ende(rover, 1));
-}
-
-std::string stationsliste(const ROVER_TOREL_Satz& zuordnung)
-{
-    std::string liste;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(zuordnung.Anzahl_Namen()); ++i)
-        liste += verkettet(i == 0 ? "" : ",", links(zuordnung.TOREL_Dateiname[i], 4));
-    return liste;
-}
-
-// True when every linked station observed through the whole window (times of day as HHMMSS).
-bool fenster_abgedeckt(const Global& g, const ROVER_TOREL_Satz& zuordnung)
-{
-    const double beginn = zahl_lesen(zuordnung.Zeitfenster_Startzeit);
-    const double ende = zahl_lesen(zuordnung.Zeitfenster_Endzeit);
-    const auto namen = zuordnung.TOREL_Dateiname.begin();
-    return std::all_of(namen, namen + zuordnung.Anzahl_Namen(), [&](const std::string& station) {
-        const int i = Index_OBS_S(g, station);
-        return i != 0 && beginn >= g.OBS_S[i].Startzeit_GPS_Sekunde && ende <= g.OBS_S[i].Endzeit_GPS_Sekunde;
-    });
-}
 
 std::string sechsstellig(const std::string& uhrzeit)
 {
@@ -110,7 +109,7 @@ std::string wav2_zeile(const Global& g, const Batchtext& batch, const ROVER_TORE
 {
     std::string zeile = batch.einsetzen("wav2 {ROVER} {STALIST} +PRO +E +A{VNR}.{ANT}");
     if (einstellung.Elevation != 10) zeile += verkettet(" -e", einstellung.Elevation);
-    if (g.Zeitfenster_1h == "1" && fenster_abgedeckt(g, zuordnung))
+    if (fenster_nutzbar(g, zuordnung))
         zeile += verkettet(" +b", sechsstellig(zuordnung.Zeitfenster_Startzeit), " +e",
                            sechsstellig(zuordnung.Zeitfenster_Endzeit));
     return zeile + batch.einsetzen(" >> {VNR}.LIS");
@@ -135,52 +134,64 @@ std::string wa2_feldliste(const Global& g)
     return verkettet(" +E-", g.MARKER_Info == "S" ? "NS2," : "NL2,", feldliste_kurz, feldliste_lang);
 }
 
-std::string wa2_zeile(const Global& g, const Batchtext& batch, const ROVER_Settings_Satz& einstellung)
+// The pieces of the `wa2` call that the two kinds of project have each of their own.
+struct Wa2_Aufruf {
+    std::string_view stationen, zone, ausgaben;
+};
+
+constexpr Wa2_Aufruf wa2_vrs = {"wa2 virt{DDD}{EXT4} {ROVER}", " +U{UTMZONE} ",
+                                " +FE{ROV8}.ext +FL{ROVER}.LIS +FS{ROV8}.prt"};
+constexpr Wa2_Aufruf wa2_fremd = {"wa2 {VRS} {ROVER}", " +U{UTMZONE}", " +FE{ROV8}.ext +FL{ROV8}.log +FS{ROV8}.prt"};
+
+void wa2_zeile(const Global& g, Batchtext& batch, const Wa2_Aufruf& aufruf, const ROVER_Settings_Satz& einstellung)
 {
-    std::string zeile = batch.einsetzen("wa2 virt{DDD}{EXT4} {ROVER} +ACF{VNR}.{ANT}");
+    std::string zeile = batch.einsetzen(verkettet(aufruf.stationen, " +ACF{VNR}.{ANT}"));
     zeile += wa2_einstellungen(einstellung);
-    if (g.UTM_Zone != "?") zeile += batch.einsetzen(" +U{UTMZONE} ");
+    if (g.UTM_Zone != "?") zeile += batch.einsetzen(aufruf.zone);
     zeile += wa2_feldliste(g);
-    return zeile + batch.einsetzen(" +FE{ROV8}.ext +FL{ROVER}.LIS +FS{ROV8}.prt >> {VNR}.LIS");
+    zeile += batch.einsetzen(verkettet(aufruf.ausgaben, " >> {VNR}.LIS"));
+    batch.fertige_zeile(dos_text(zeile));
 }
 
-void bis_zur_auswertung(const Global& g, Batchtext& batch)
+void anfang(const Global& g, Batchtext& batch, std::span<const Batchzeile> vorbereitung)
 {
     batchkopf(g, batch, titel_rover);
     batch.zeilen(alte_ergebnisse);
-    batch.zeilen(vorbereitung_vrs);
+    batch.zeilen(vorbereitung);
 }
 
-void auswertung(const Global& g, Batchtext& batch, const ROVER_TOREL_Satz& zuordnung,
-                const ROVER_Settings_Satz& einstellung)
+void ende(Batchtext& batch, std::span<const Batchzeile> kopieren)
 {
-    batch.fertige_zeile(dos_text(wav2_zeile(g, batch, zuordnung, einstellung)));
-    batch.zeilen(virtuelle_station);
-    batch.fertige_zeile(dos_text(wa2_zeile(g, batch, einstellung)));
-    batch.zeilen(umbenennen);
-    batch.zeilen(block_fehlerliste);
-    batch.zeilen(fehler_vrs);
     batch.zeilen(block_kopieren);
-    batch.zeilen(kopieren_vrs);
+    batch.zeilen(kopieren);
     batch.zeilen(block_ende);
     batch.zeile(":ende");
 }
 
-}  // namespace
-
-Fehler rover_batch_vrs(Global& g, const std::string& rover)
+void auswertung_vrs(const Global& g, Batchtext& batch, int index)
 {
-    const int index = Index_Settings(g, rover);
-    if (index == 0 || index > g.ROVER_TOREL.anzahl()) {
-        stop_melden(g, verkettet("Zum ROVER:", rover, "\nsind keine TOREL-Dateien zugeordnet!"));
-        return Fehler::gesetzt;
-    }
-    Batchtext batch(g);
-    rover_namen(batch, rover);
-    batch.setzen("STALIST", stationsliste(g.ROVER_TOREL[index]));
-    bis_zur_auswertung(g, batch);
+    const ROVER_Settings_Satz& einstellung = g.ROVER_Settings[index];
+    batch.fertige_zeile(dos_text(wav2_zeile(g, batch, g.ROVER_TOREL[index], einstellung)));
+    batch.zeilen(virtuelle_station);
+    wa2_zeile(g, batch, wa2_vrs, einstellung);
+    batch.zeilen(umbenennen);
+    batch.zeilen(block_fehlerliste);
+    batch.zeilen(fehler_vrs);
+    ende(batch, kopieren_vrs);
+}
+
+void auswertung_fremd(const Global& g, Batchtext& batch, int index)
+{
+    wa2_zeile(g, batch, wa2_fremd, g.ROVER_Settings[index]);
+    batch.zeilen(protokoll_fremd);
+    ende(batch, kopieren_fremd);
+}
+
+// Antenna files of the old format stop the batch in front of its first call of the suite.
+Fehler abschliessen(Global& g, Batchtext& batch, void (*auswertung)(const Global&, Batchtext&, int), int index)
+{
     const bool alte_antennen = batch.wert("ANT") == "APC";
-    if (!alte_antennen) auswertung(g, batch, g.ROVER_TOREL[index], g.ROVER_Settings[index]);
+    if (!alte_antennen) auswertung(g, batch, index);
     if (const Fehler fehler = batchdatei_schreiben(g, batch.text(), "Die Batchdatei:"); ist_fehler(fehler))
         return fehler;
     Datum_setzen(g);
@@ -190,6 +201,38 @@ Fehler rover_batch_vrs(Global& g, const std::string& rover)
     }
     aufrufdatei_schreiben(g);
     return Fehler::keiner;
+}
+
+Fehler ohne_zuordnung(Global& g, std::string_view rover, std::string_view text)
+{
+    stop_melden(g, verkettet("Zum ROVER:", rover, "\n", text));
+    return Fehler::gesetzt;
+}
+
+}  // namespace
+
+Fehler rover_batch_vrs(Global& g, const std::string& rover)
+{
+    const int index = Index_Settings(g, rover);
+    if (index == 0 || index > g.ROVER_TOREL.anzahl())
+        return ohne_zuordnung(g, rover, "sind keine TOREL-Dateien zugeordnet!");
+    Batchtext batch(g);
+    rover_namen(batch, rover);
+    batch.setzen("STALIST", stationsliste(g.ROVER_TOREL[index]));
+    anfang(g, batch, vorbereitung_vrs);
+    return abschliessen(g, batch, auswertung_vrs, index);
+}
+
+Fehler rover_batch_fremd(Global& g, const std::string& rover)
+{
+    const int index = Index_Settings(g, rover);
+    if (index == 0 || index > g.ROVER_VIRT.anzahl() || g.ROVER_VIRT[index].VIRT_Dateiname == "?")
+        return ohne_zuordnung(g, rover, "ist keine virtuelle Referenzstation zugeordnet!");
+    Batchtext batch(g);
+    rover_namen(batch, rover);
+    batch.setzen("VRS", g.ROVER_VIRT[index].VIRT_Dateiname);
+    anfang(g, batch, vorbereitung_fremd);
+    return abschliessen(g, batch, auswertung_fremd, index);
 }
 
 }  // namespace jorv

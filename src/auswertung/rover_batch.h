@@ -14,4 +14,8 @@ namespace jorv {
 /// stays). A call file that can't be written is shown but is no failure.
 Fehler rover_batch_vrs(Global& g, const std::string& rover);
 
+/// Mode F: the virtual reference station was made elsewhere, `wa2` computes the rover from it. Files and failures as
+/// above; a rover without a linked station is a failure too.
+Fehler rover_batch_fremd(Global& g, const std::string& rover);
+
 }  // namespace jorv

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "plattform/text.h"
+#include "konsole/Lage.h"
 
 namespace jorv {
 

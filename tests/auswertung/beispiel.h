@@ -12,7 +12,23 @@
 
 namespace jorv::hilfen {
 
-/// Adds a switched-on green rover with three linked stations of 8 to 10 o'clock.
+/// A foreign virtual station of that rover, linked to it.
+inline void fremde_anfuegen(Global& g, const std::string& rover)
+{
+    OBS beobachtung;
+    beobachtung.Dateiname = "virt" + rover;
+    beobachtung.Antenne = "00220020            TRM22020.00+GP  NONE";
+    (void)g.OBS_V.anfuegen(beobachtung);
+    (void)g.V_Punkt.anfuegen();
+    ROVER_VIRT_Satz zuordnung;
+    zuordnung.ROVER_Dateiname = rover;
+    zuordnung.VIRT_Dateiname = beobachtung.Dateiname;
+    zuordnung.VIRT_Index = g.OBS_V.anzahl();
+    (void)g.ROVER_VIRT.anfuegen(zuordnung);
+}
+
+/// Adds a switched-on green rover with three linked stations of 8 to 10 o'clock, in mode F one with its foreign
+/// station.
 inline void rover_anfuegen(Global& g, const std::string& name)
 {
     OBS beobachtung;
@@ -21,6 +37,7 @@ inline void rover_anfuegen(Global& g, const std::string& name)
     beobachtung.Antenne = "00220020            TRM22020.00+GP  NONE";
     (void)g.OBS_R.anfuegen(beobachtung);
     (void)g.R_Punkt.anfuegen();
+    if (ist_F(g)) fremde_anfuegen(g, name);
     ROVER_TOREL_Satz zuordnung;
     zuordnung.ROVER_Dateiname = name;
     zuordnung.Anzahl = 3;

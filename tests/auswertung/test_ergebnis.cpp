@@ -68,6 +68,17 @@ TEST(Ergebnis, zerlegt_die_zeile_nach_festen_laengen)
     }
 }
 
+TEST(Ergebnis, bei_fremden_stationen_bleibt_der_schnitt_bei_101)
+{
+    Auswertung a;
+    a.g.MARKER_Info = "L";
+    int status = 0;
+    rover_auswerten_fremd(a.g, rover, status);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(a.datei("jorv_out\\dat_rov\\" + rover + ".UTM"), a.zeile.substr(0, 101) + "\r\n");
+    EXPECT_EQ(a.datei("001.KRZ"), std::string(rechts(a.zeile, 100)) + "\r\n");
+}
+
 TEST(Ergebnis, ohne_extraktionsdatei_endet_der_lauf)
 {
     Auswertung a;
@@ -174,6 +185,26 @@ TEST(KoordinatenDatei, nennt_jede_station_einmal_mit_dem_antennentext_ihres_bere
               "0590 3844059.700 709661.300 5023129.565 \"TRM22020.00+GP 00220\"\r\n"
               "3999 -3844059.700  -9661.300       0.500 \"TRM22020.00+GP 00220\"\r\n"
               "4000 3844059.700 709661.300 5023129.500 \"00220020        SN42\"\r\n");
+}
+
+TEST(KoordinatenDatei, nennt_in_modus_f_die_fremde_station_und_den_rover)
+{
+    Beispiel b({"5501092a.05o", "5502092a.05o"}, "3");
+    b.g.Verfahren[1].Antenne = "APC";
+    const auto punkt = [](Punkt& p, const char* name, double x) { p = {name, 0, 0, x, -0.5, 2}; };
+    punkt(b.g.V_Punkt[2], "virt", 3844059.7);
+    punkt(b.g.R_Punkt[2], "5502", 1);
+    b.g.OBS_R[2].Antenne = "4711                LEIAT302        NONE";
+    const std::string zeile_rover = "5502       1.000     -0.500       2.000 \"LEIAT302        NONE\"\r\n";
+    ASSERT_EQ(koordinaten_datei_rover(b.g, "5502092a.05o"), Fehler::keiner);
+    EXPECT_EQ(b.datei("001.COO"), "virt 3844059.700     -0.500       2.000 \"TRM22020.00+GP  NONE\"\r\n" + zeile_rover);
+    for (const int daneben : {0, 3}) {
+        b.g.ROVER_VIRT[2].VIRT_Index = daneben;
+        ASSERT_EQ(koordinaten_datei_rover(b.g, "5502092a.05o"), Fehler::keiner);
+        EXPECT_EQ(b.datei("001.COO"), zeile_rover);
+    }
+    EXPECT_EQ(koordinaten_datei_rover(b.g, "fremd.05o"), Fehler::gesetzt);
+    EXPECT_EQ(b.schirm.einzige(), "Zum ROVER:fremd.05o\nist keine virtuelle Referenzstation zugeordnet!");
 }
 
 TEST(KoordinatenDatei, ein_fehlschlag_bleibt_ein_fehler)

@@ -15,14 +15,17 @@ namespace {
 
 // A project that is ready to run, and a child that leaves what the suite would leave.
 struct Laufstand : Beispiel {
-    explicit Laufstand(std::initializer_list<const char*> rover = {"5501092a.05o", "5502092a.05o", "5503092a.05o"})
-        : Beispiel(rover)
+    explicit Laufstand(std::initializer_list<const char*> rover = {"5501092a.05o", "5502092a.05o", "5503092a.05o"},
+                       std::string_view modus = "1")
+        : Beispiel(rover, modus)
     {
         legen("001.ATX", "TRM22020.00+GP  NONE00220020                                TYPE / SERIAL NO    \r\n");
         umgebung.prozess = [this](const Dateisystem&, std::string_view kommandozeile, const std::function<void()>&) {
             kommandozeilen.emplace_back(kommandozeile);
             const std::string batch = datei("001.BAT");
-            const auto stelle = batch.find("\r\nwav2 ") + 7;
+            // The first word behind `wav2`, the second behind `wa2`.
+            const auto stelle =
+                ist_F(g) ? batch.find(' ', batch.find("\r\nwa2 ") + 6) + 1 : batch.find("\r\nwav2 ") + 7;
             const std::string rover_name = batch.substr(stelle, batch.find(' ', stelle) - stelle);
             gerechnet.push_back(rover_name);
             for (const char* ordnername : {"dat_rov", "krz_rov", "lis_rov", "dat_ext"})
@@ -81,6 +84,31 @@ TEST(Lauf, rechnet_die_bereiten_rover_und_raeumt_auf)
     // The computed rovers aren't computed again.
     EXPECT_EQ(l.laufen(), Fehler::gesetzt);
     EXPECT_EQ(l.schirm.einzige(), "Es kann keine ROVER-Datei ausgewertet werden!");
+}
+
+TEST(Lauf, rechnet_mit_fremden_stationen)
+{
+    Laufstand l({"5501092a.05o", "5502092a.05o", "5503092a.05o", "5504092a.05o"}, "3");
+    l.g.ROVER_Settings[1].Ein_Ausschalterkennung = 0;
+    l.g.ROVER_VIRT[3].VIRT_Dateiname = "?";
+    baum_aufbauen(l.g);
+    l.kind["5502092a.05o"] = [&] {
+        l.gute_rechnung("5502092a.05o", "FixedL1");
+        l.legen("001.LIS", "von der Suite\r\n");
+    };
+    ASSERT_EQ(l.laufen(), Fehler::keiner);
+    EXPECT_TRUE(l.schirm.gezeigt.empty()) << l.schirm.einzige();
+    EXPECT_THAT(l.gerechnet, ElementsAre("5502092a.05o", "5504092a.05o"));
+    EXPECT_THAT(l.berechnet(), ElementsAre("5502092a.05o", "5504092a.05o"));
+    EXPECT_EQ(l.datei("jorv_out\\lis_rov\\5502092a.05o.LIS"), "von der Suite\r\n");
+    EXPECT_NE(l.datei("001.LIS").find("\r\nvon der Suite\r\n"), std::string::npos);
+    EXPECT_NE(l.datei("001.ALL").find(t1252("Anzahl Lösungen:    2 *** 2 fehlen! ***\r\n")), std::string::npos);
+    // Without antenna files nothing starts; the test belongs to each rover, so old reports have gone by then.
+    Laufstand ohne({"5501092a.05o"}, "3");
+    (void)ohne.g.dateien.loeschen(im_Verfahren(ohne.g, "001.ATX"));
+    EXPECT_EQ(ohne.laufen(), Fehler::gesetzt);
+    EXPECT_EQ(ohne.schirm.einzige().rfind("Die Antennendatei:\n", 0), 0u);
+    EXPECT_FALSE(ohne.hat("001.BAT"));
 }
 
 TEST(Lauf, ohne_etwas_zu_rechnen_bleibt_alles_stehen)

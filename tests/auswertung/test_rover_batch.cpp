@@ -104,6 +104,51 @@ TEST(RoverBatch, schreibt_jede_zeile_auf_das_byte)
     }
 }
 
+const std::array<Fall, 8> faelle_fremd = {{
+    {"fremd_einfach", [](Beispiel&) {}},
+    {"fremd_elevation_10", [](Beispiel& b) { einstellung(b).Elevation = 10; }},
+    {"fremd_solution_1_minuten",
+     [](Beispiel& b) {
+         einstellung(b).Solution = 1;
+         einstellung(b).DelFirstMinutes = 3;
+         einstellung(b).DelLastMinutes = 12;
+     }},
+    {"fremd_satelliten_aus", satelliten},
+    {"fremd_utm_zone", [](Beispiel& b) { b.g.UTM_Zone = "32"; }},
+    {"fremd_marker_lang", [](Beispiel& b) { b.g.MARKER_Info = "L"; }},
+    {"fremd_einfach", [](Beispiel& b) { fenster(b, "81500", "91500"); }},  // the window is no matter of this mode
+    {"fremd_umlaute",
+     [](Beispiel& b) {
+         b.g.Verfahrensname = b.g.Verfahren[1].Name = t1252("Büro Süd & Größe");
+         b.g.EXE_Verzeichnis = t1252("C:\\Programme für Vermessung\\WaSoft");
+         b.g.ROVER_VIRT[1].VIRT_Dateiname = t1252("virtä501092a.05o");
+         b.verlegen("D:", t1252("D:\\Übung Nr. 5\\Straße ä"));
+     }},
+}};
+
+TEST(RoverBatch, schreibt_jede_zeile_einer_fremden_station_auf_das_byte)
+{
+    for (const auto& fall : faelle_fremd) {
+        SCOPED_TRACE(fall.probe);
+        Beispiel b({"5501092a.05o"}, "3");
+        b.verlegen("D:", "D:\\Projekte\\Muster");
+        fall.aendern(b);
+        ASSERT_EQ(rover_batch_fremd(b.g, "5501092a.05o"), Fehler::keiner) << b.schirm.einzige();
+        EXPECT_EQ(b.datei("001.BAT"), probe(std::string(fall.probe) + ".BAT"));
+        EXPECT_TRUE(b.hat("Jorv.BAT"));
+    }
+    Beispiel b({"5501092a.05o"}, "3");
+    b.verlegen("D:", "D:\\Projekte\\Muster");
+    b.g.Verfahren[1].Antenne = "APC";
+    EXPECT_EQ(rover_batch_fremd(b.g, "5501092a.05o"), Fehler::gesetzt);
+    EXPECT_EQ(b.datei("001.BAT"), probe("fremd_apc.BAT"));
+    EXPECT_FALSE(b.hat("Jorv.BAT"));
+    b.schirm.gezeigt.clear();
+    b.g.ROVER_VIRT[1].VIRT_Dateiname = "?";
+    EXPECT_EQ(rover_batch_fremd(b.g, "5501092a.05o"), Fehler::gesetzt);
+    EXPECT_EQ(b.schirm.einzige(), "Zum ROVER:5501092a.05o\nist keine virtuelle Referenzstation zugeordnet!");
+}
+
 TEST(RoverBatch, die_aufrufdatei_startet_den_batch_in_anfuehrungszeichen)
 {
     Beispiel b;

@@ -65,7 +65,7 @@ public:
     bool im_editor_oeffnen(std::string_view pfad) override
     {
         geoeffnet.emplace_back(pfad);
-        return true;
+        return editor_startet;
     }
     std::optional<Dateiwahl> dateien_waehlen(Dateiart, std::string_view) override
     {
@@ -109,6 +109,7 @@ public:
     std::string fenstertitel;
     int baum_erneuert = 0, karte_gezeichnet = 0, menue_erneuert = 0, liste_erneuert = 0, gepiept = 0;
     int ereignisse_zahl = 0;
+    bool editor_startet = true;
     int abbruch_nach = 0;  ///< the abort button counts as pressed from this event on; 0 never
     std::function<void()> bei_ereignissen;
 

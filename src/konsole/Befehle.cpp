@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "konsole/Lage.h"
+#include "plattform/text.h"
 
 namespace jorv {
 

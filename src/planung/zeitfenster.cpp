@@ -16,23 +16,10 @@ namespace {
 constexpr int minuten_der_stunde = 60;
 constexpr std::int64_t halbe_stunde = 1800;
 
-struct Fenster {
-    Zeitpunkt von, bis;
-};
-
 // The middle of a span of whole seconds, a half second to the even neighbour.
 std::int64_t haelfte(std::int64_t sekunden)
 {
     return static_cast<std::int64_t>(std::nearbyint(static_cast<double>(sekunden) / 2));
-}
-
-Fenster fenster_von(const OBS& rover)
-{
-    const Zeitpunkt a = rover.Startzeit(), e = rover.Endzeit();
-    if (minuten_zwischen(a, e) >= minuten_der_stunde) return {a, e};
-    const std::int64_t beginn = sekunden_seit_1970(a);
-    const std::int64_t mitte_s = beginn + haelfte(sekunden_seit_1970(e) - beginn);
-    return {zeitpunkt_aus_sekunden(mitte_s - halbe_stunde), zeitpunkt_aus_sekunden(mitte_s + halbe_stunde)};
 }
 
 // Cut by position from the date text, which has no time part at midnight.
@@ -64,7 +51,7 @@ void alle_berechnen(Global& g)
         g.oberflaeche->fortschritt_setzen(i * 100.0 / anzahl);
         const auto fund = stelle.find(g.ROVER_TOREL[i].ROVER_Dateiname);
         if (fund == stelle.end()) continue;
-        const Fenster fenster = fenster_von(g.OBS_R[fund->second]);
+        const Zeitfenster fenster = zeitfenster_von(g.OBS_R[fund->second]);
         g.ROVER_TOREL[i].Zeitfenster_Startzeit = sechs_ziffern(fenster.von);
         g.ROVER_TOREL[i].Zeitfenster_Endzeit = sechs_ziffern(fenster.bis);
     }
@@ -114,6 +101,15 @@ Fehler tage_sammeln(Global& g)
 }
 
 }  // namespace
+
+Zeitfenster zeitfenster_von(const OBS& rover)
+{
+    const Zeitpunkt a = rover.Startzeit(), e = rover.Endzeit();
+    if (minuten_zwischen(a, e) >= minuten_der_stunde) return {a, e};
+    const std::int64_t beginn = sekunden_seit_1970(a);
+    const std::int64_t mitte_s = beginn + haelfte(sekunden_seit_1970(e) - beginn);
+    return {zeitpunkt_aus_sekunden(mitte_s - halbe_stunde), zeitpunkt_aus_sekunden(mitte_s + halbe_stunde)};
+}
 
 void zeitfenster_alle(Global& g)
 {

@@ -6,6 +6,13 @@
 
 namespace jorv {
 
+struct Zeitfenster {
+    Zeitpunkt von, bis;
+};
+
+/// The window of one rover: its own span, or the hour centred on it when it is shorter than 60 calendar minutes.
+Zeitfenster zeitfenster_von(const OBS& rover);
+
 /// Both window fields of every ROVER_TOREL row: "0" while the option is off; else six digits HHMMSS, the rover's own
 /// span, or the hour centred on it when it is shorter than 60 calendar minutes. An abort turns the option off.
 /// A limit at exactly midnight gives the last two digits of the year, as it always did.

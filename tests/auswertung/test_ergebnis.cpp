@@ -29,10 +29,10 @@ struct Auswertung : Beispiel {
             (void)g.dateien.ordner_anlegen(im_Verfahren(g, std::string("jorv_out\\") + ordnername));
         legen("5501092a.ext", zeile + "\r\n");
     }
-    int auswerten()
+    int auswerten(bool fremd = false)
     {
         int status = 0;
-        rover_auswerten_vrs(g, rover, status);
+        (fremd ? rover_auswerten_fremd : rover_auswerten_vrs)(g, rover, status);
         return status;
     }
     std::string zeile = extraktionszeile(218);
@@ -44,11 +44,12 @@ TEST(Ergebnis, zerlegt_die_zeile_nach_festen_laengen)
         const char* marker;
         std::size_t laenge, utm;
         const char* ende;
+        bool fremd = false;
     } const tafel[] = {
         {"S", 201, 101, "\r\n"},  // short and long list of the short names, no gap
         {"L", 217, 117, "\r\n"}, {"?", 217, 117, "\n"},
-        {"S", 150, 101, "\r\n"},  // shorter than both cuts: the pieces overlap
-        {"S", 40, 40, ""},
+        {"S", 150, 101, "\r\n"},                                 // shorter than both cuts: the pieces overlap
+        {"S", 40, 40, ""},       {"L", 217, 101, "\r\n", true},  // mode F cuts short, long names or not
     };
     for (const auto& fall : tafel) {
         SCOPED_TRACE(fall.laenge);
@@ -57,7 +58,7 @@ TEST(Ergebnis, zerlegt_die_zeile_nach_festen_laengen)
         const std::string zeile = extraktionszeile(fall.laenge);
         a.legen("5501092a.ext", zeile + fall.ende);
         a.legen("001.KRZ", "vorher\r\n");
-        EXPECT_EQ(a.auswerten(), 0);
+        EXPECT_EQ(a.auswerten(fall.fremd), 0);
         const std::string bericht = std::string(rechts(zeile, 100)) + "\r\n";
         EXPECT_EQ(a.datei("jorv_out\\dat_rov\\" + rover + ".UTM"), zeile.substr(0, fall.utm) + "\r\n");
         EXPECT_EQ(a.datei("jorv_out\\krz_rov\\" + rover + ".KRZ"), bericht);
@@ -66,17 +67,6 @@ TEST(Ergebnis, zerlegt_die_zeile_nach_festen_laengen)
             EXPECT_FALSE(a.hat(quelle)) << quelle;
         EXPECT_TRUE(a.schirm.gezeigt.empty()) << a.schirm.einzige();
     }
-}
-
-TEST(Ergebnis, bei_fremden_stationen_bleibt_der_schnitt_bei_101)
-{
-    Auswertung a;
-    a.g.MARKER_Info = "L";
-    int status = 0;
-    rover_auswerten_fremd(a.g, rover, status);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(a.datei("jorv_out\\dat_rov\\" + rover + ".UTM"), a.zeile.substr(0, 101) + "\r\n");
-    EXPECT_EQ(a.datei("001.KRZ"), std::string(rechts(a.zeile, 100)) + "\r\n");
 }
 
 TEST(Ergebnis, ohne_extraktionsdatei_endet_der_lauf)
@@ -191,17 +181,13 @@ TEST(KoordinatenDatei, nennt_in_modus_f_die_fremde_station_und_den_rover)
 {
     Beispiel b({"5501092a.05o", "5502092a.05o"}, "3");
     b.g.Verfahren[1].Antenne = "APC";
-    const auto punkt = [](Punkt& p, const char* name, double x) { p = {name, 0, 0, x, -0.5, 2}; };
-    punkt(b.g.V_Punkt[2], "virt", 3844059.7);
-    punkt(b.g.R_Punkt[2], "5502", 1);
-    b.g.OBS_R[2].Antenne = "4711                LEIAT302        NONE";
-    const std::string zeile_rover = "5502       1.000     -0.500       2.000 \"LEIAT302        NONE\"\r\n";
-    ASSERT_EQ(koordinaten_datei_rover(b.g, "5502092a.05o"), Fehler::keiner);
-    EXPECT_EQ(b.datei("001.COO"), "virt 3844059.700     -0.500       2.000 \"TRM22020.00+GP  NONE\"\r\n" + zeile_rover);
-    for (const int daneben : {0, 3}) {
-        b.g.ROVER_VIRT[2].VIRT_Index = daneben;
+    b.g.V_Punkt[2] = {"virt", 0, 0, 3844059.7, -0.5, 2};
+    b.g.R_Punkt[2] = {"5502", 0, 0, 1, -0.5, 2};
+    const std::string ende = "     -0.500       2.000 \"TRM22020.00+GP  NONE\"\r\n", eigene = "5502       1.000" + ende;
+    for (const int index : {2, 0, 3}) {  // the linked station, and two indices without a point
+        b.g.ROVER_VIRT[2].VIRT_Index = index;
         ASSERT_EQ(koordinaten_datei_rover(b.g, "5502092a.05o"), Fehler::keiner);
-        EXPECT_EQ(b.datei("001.COO"), zeile_rover);
+        EXPECT_EQ(b.datei("001.COO"), (index == 2 ? "virt 3844059.700" + ende : "") + eigene);
     }
     EXPECT_EQ(koordinaten_datei_rover(b.g, "fremd.05o"), Fehler::gesetzt);
     EXPECT_EQ(b.schirm.einzige(), "Zum ROVER:fremd.05o\nist keine virtuelle Referenzstation zugeordnet!");

@@ -109,34 +109,6 @@ TEST(Kurzprotokoll, alle_rover_stehen_auf_das_byte)
     EXPECT_TRUE(b.schirm.gezeigt.empty());
 }
 
-TEST(Kurzprotokoll, ein_fehler_im_bericht_aller_rover_laesst_keine_halbe_datei)
-{
-    struct {
-        const char* text;
-        const char* datei;
-        std::function<void(Berichte&)> stoeren;
-    } const tafel[] = {
-        {"Die Kurzprotokolldatei für alle ROVER:\n%\nkonnte nicht geöffnet werden!", "001.ALL",
-         [](Berichte& b) { b.versperren("001.ALL"); }},
-        {"In die Gesamt-Kurzprotokolldatei:\n%\nkonnte nicht richtig geschrieben werden!", "001.ALL",
-         [](Berichte&) { Bruch::schreiben_bei = 1; }},
-        {"Die Kurzprotokolldatei:\n%\nkonnte nicht geöffnet werden!", "jorv_out\\krz_rov\\5502092a.05o.KRZ",
-         [](Berichte& b) { (void)b.g.dateien.loeschen(im_Verfahren(b.g, "jorv_out\\krz_rov\\5502092a.05o.KRZ")); }},
-        {"Die Kurzprotokolldatei:\n%\nkonnte nicht richtig gelesen werden!", "jorv_out\\krz_rov\\5502092a.05o.KRZ",
-         [](Berichte& b) { b.legen("jorv_out\\krz_rov\\5502092a.05o.KRZ", ""); }},
-        {"Die Kurzprotokolldatei:\n%\nkonnte nicht richtig gelesen werden!", "jorv_out\\krz_rov\\5501092a.05o.KRZ",
-         [](Berichte&) { Bruch::lesen_bei = 1; }}};
-    for (const auto& fall : tafel) {
-        Berichte b(4);
-        const Bruch bruch(b.g);
-        fall.stoeren(b);
-        kurzprotokoll_aller(b.g);
-        EXPECT_EQ(b.schirm.einzige(), ersetzt(std::string_view(fall.text), "%", b.pfad8(fall.datei)));
-        EXPECT_EQ(b.schirm.gezeigt[0].symbol, Symbol::stop);
-        EXPECT_FALSE(b.g.dateien.ist_datei(im_Verfahren(b.g, "001.ALL")));
-    }
-}
-
 void protokolle_legen(Berichte& b)
 {
     b.legen("jorv_out\\lis_rov\\5502092a.05o.LIS", t1252("zweiter\n\n  mit Lücke"));
@@ -168,38 +140,57 @@ TEST(Gesamtprotokoll, ohne_berechnete_rover_wird_angehaengt)
     EXPECT_FALSE(leer.hat("001.LIS"));
 }
 
-TEST(Gesamtprotokoll, jeder_fehler_sagt_sein_wort)
+TEST(Berichtsfehler, jeder_fehler_sagt_sein_wort_und_laesst_keine_halbe_datei)
 {
     struct {
+        void (*bericht)(Global&);
         const char* text;
         const char* datei;
         std::function<void(Berichte&)> stoeren;
     } const tafel[] = {
-        {"Die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht angelegt werden!", "001.LIS",
-         [](Berichte& b) { b.versperren("001.LIS"); }},
-        {"Die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht angelegt/erweitert werden!", "001.LIS",
+        {kurzprotokoll_aller, "Die Kurzprotokolldatei für alle ROVER:\n%\nkonnte nicht geöffnet werden!", "001.ALL",
+         [](Berichte& b) { b.versperren("001.ALL"); }},
+        {kurzprotokoll_aller, "In die Gesamt-Kurzprotokolldatei:\n%\nkonnte nicht richtig geschrieben werden!",
+         "001.ALL", [](Berichte&) { Bruch::schreiben_bei = 1; }},
+        {kurzprotokoll_aller, "Die Kurzprotokolldatei:\n%\nkonnte nicht geöffnet werden!",
+         "jorv_out\\krz_rov\\5502092a.05o.KRZ",
+         [](Berichte& b) { (void)b.g.dateien.loeschen(im_Verfahren(b.g, "jorv_out\\krz_rov\\5502092a.05o.KRZ")); }},
+        {kurzprotokoll_aller, "Die Kurzprotokolldatei:\n%\nkonnte nicht richtig gelesen werden!",
+         "jorv_out\\krz_rov\\5502092a.05o.KRZ",
+         [](Berichte& b) { b.legen("jorv_out\\krz_rov\\5502092a.05o.KRZ", ""); }},
+        {kurzprotokoll_aller, "Die Kurzprotokolldatei:\n%\nkonnte nicht richtig gelesen werden!",
+         "jorv_out\\krz_rov\\5501092a.05o.KRZ", [](Berichte&) { Bruch::lesen_bei = 1; }},
+        {gesamtprotokoll_schreiben, "Die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht angelegt werden!",
+         "001.LIS", [](Berichte& b) { b.versperren("001.LIS"); }},
+        {gesamtprotokoll_schreiben, "Die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht angelegt/erweitert werden!",
+         "001.LIS",
          [](Berichte& b) {
              for (int i : {2, 3})
                  (void)b.g.dateien.loeschen(im_Verfahren(b.g, "jorv_out\\dat_rov\\" + b.g.OBS_R[i].Dateiname + ".UTM"));
              baum_aufbauen(b.g);
              b.versperren("001.LIS");
          }},
-        {"In die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht richtig geschrieben werden!", "001.LIS",
+        {gesamtprotokoll_schreiben,
+         "In die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht richtig geschrieben werden!", "001.LIS",
          [](Berichte&) { Bruch::schreiben_bei = 1; }},
-        {"In die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht richtig geschrieben werden!", "001.LIS",
+        {gesamtprotokoll_schreiben,
+         "In die Gesamt-Berechnungsprotokolldatei:\n%\nkonnte nicht richtig geschrieben werden!", "001.LIS",
          [](Berichte&) { Bruch::schreiben_bei = 2; }},
-        {"Die Berechnungsprotokolldatei:\n%\nkonnte nicht geöffnet werden!", "jorv_out\\lis_rov\\5505092a.05o.LIS",
+        {gesamtprotokoll_schreiben, "Die Berechnungsprotokolldatei:\n%\nkonnte nicht geöffnet werden!",
+         "jorv_out\\lis_rov\\5505092a.05o.LIS",
          [](Berichte& b) { b.versperren("jorv_out\\lis_rov\\5505092a.05o.LIS"); }},
-        {"Die Berechnungsprotokolldatei:\n%\nkonnte nicht richtig gelesen werden!",
+        {gesamtprotokoll_schreiben, "Die Berechnungsprotokolldatei:\n%\nkonnte nicht richtig gelesen werden!",
          "jorv_out\\lis_rov\\5502092a.05o.LIS", [](Berichte&) { Bruch::lesen_bei = 1; }}};
     for (const auto& fall : tafel) {
-        Berichte b;
+        SCOPED_TRACE(fall.text);
+        Berichte b(fall.bericht == kurzprotokoll_aller ? 4 : 0);
         protokolle_legen(b);
         const Bruch bruch(b.g);
         fall.stoeren(b);
-        gesamtprotokoll_schreiben(b.g);
+        fall.bericht(b.g);
         EXPECT_EQ(b.schirm.einzige(), ersetzt(std::string_view(fall.text), "%", b.pfad8(fall.datei)));
         EXPECT_EQ(b.schirm.gezeigt[0].symbol, Symbol::stop);
+        EXPECT_FALSE(b.g.dateien.ist_datei(im_Verfahren(b.g, "001.ALL")));
     }
 }
 

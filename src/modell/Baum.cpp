@@ -93,6 +93,18 @@ int rover_bild(const Global& g, int i)
     return status >= 1 && status <= 3 ? status : bild_rot;
 }
 
+void rover_bild_setzen(Global& g, std::string_view rover, int bild)
+{
+    Hauptknoten* gruppe = knoten(g.baum, "R_Datei");
+    if (!gruppe) return;
+    for (auto& k : gruppe->Kinder) {
+        if (k.Text != rover) continue;
+        g.berechnete_ROVER += (bild == bild_gruen ? 1 : 0) - (k.Bild == bild_gruen ? 1 : 0);
+        k.Bild = bild;
+    }
+    g.oberflaeche->baum_erneuern();
+}
+
 void baum_aufbauen(Global& g)
 {
     g.baum.Knoten.clear();

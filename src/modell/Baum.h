@@ -1,6 +1,8 @@
 // The project tree: a pure function of the state and of the result files on disk.
 #pragma once
 
+#include <string_view>
+
 #include "modell/Global.h"
 #include "modell/Knoten.h"
 
@@ -11,5 +13,9 @@ void baum_aufbauen(Global& g);
 
 /// The image of rover i (1-based) by its light alone, as if no result file were there.
 int rover_bild(const Global& g, int i);
+
+/// Sets the image of a rover's node under "ROVER-Dateien" in place and adjusts g.berechnete_ROVER. The node of a
+/// computed rover keeps its image.
+void rover_bild_setzen(Global& g, std::string_view rover, int bild);
 
 }  // namespace jorv

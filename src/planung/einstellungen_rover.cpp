@@ -41,20 +41,6 @@ Zahlenfeld feld(std::int32_t wert, Grenzen grenzen)
     return {verkettet(wert), grenzen.minimum, grenzen.maximum};
 }
 
-// The node keeps its place until the tree is built anew; a computed rover keeps its image too.
-void bild_erneuern(Global& g, int rover)
-{
-    for (auto& gruppe : g.baum.Knoten) {
-        if (gruppe.Schluessel != "R_Datei") continue;
-        g.berechnete_ROVER = 0;
-        for (auto& knoten : gruppe.Kinder) {
-            if (knoten.Text == g.OBS_R[rover].Dateiname) knoten.Bild = rover_bild(g, rover);
-            if (knoten.Bild == 1) ++g.berechnete_ROVER;
-        }
-    }
-    g.oberflaeche->baum_erneuern();
-}
-
 }  // namespace
 
 Satellitenkasten satellitenkasten(std::string_view name, bool haken)
@@ -109,7 +95,8 @@ Fehler einstellungen_ok(Global& g, const Rovereinstellungen& e)
     satz.Ein_Ausschalterkennung = e.einaus ? 1 : 0;
     for (std::size_t k = 0; k < e.satelliten.size(); ++k)
         if (e.satelliten[k].aktiv) satz.DelSatellite[k + 1] = e.satelliten[k].Haken ? 1 : 0;
-    if (const int rover = Index_OBS_R(g, e.ROVER_Dateiname); rover != 0) bild_erneuern(g, rover);
+    if (const int rover = Index_OBS_R(g, e.ROVER_Dateiname); rover != 0)
+        rover_bild_setzen(g, e.ROVER_Dateiname, rover_bild(g, rover));
     Datum_setzen(g);
     return Fehler::keiner;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "planung/zeitfenster.h"
@@ -164,6 +165,7 @@ void handarbeit_ok(Global& g, Handarbeit& h)
         satz.Grund = u.Grund;
         satz.Schutz = h.Schutz;
         if (u.Status == 3) h.Knoten = '3';
+        if (i <= g.OBS_R.anzahl()) rover_bild_setzen(g, h.ROVER.Dateiname, rover_bild(g, i));
     }
     Datum_setzen(g);
 }

@@ -48,7 +48,7 @@ Fehler handarbeit_oeffnen(Global& g, std::string_view rover, Handarbeit& h);
 void handarbeit_klick(Global& g, Handarbeit& h, int zeile);
 
 /// OK: the chosen files replace the assignment, with light and reason from the rover's row and the protection as
-/// ticked. The project is stamped, nothing is redrawn or saved.
+/// ticked, the rover's node in the tree the image of that light. The project is stamped; nothing is saved.
 void handarbeit_ok(Global& g, Handarbeit& h);
 
 Handausschnitt handarbeit_ausschnitt(const Handarbeit& h);

@@ -115,7 +115,7 @@ void Import::batch_uebernehmen()
     const Gelesen gelesen = m_g.dateien.lesen_stufenweise(quelle);
     if (gelesen.stufe == Dateistufe::oeffnen)
         return stop_melden(m_g, datei_meldung("Die Batchdatei:", quelle, u8"konnte nicht geöffnet werden!"_w));
-    if (!gelesen.gut())
+    if (gelesen.stufe == Dateistufe::lesen)
         return stop_melden(m_g, verkettet("Lesefehler in der Datei:\n", quelle,
                                           "\nin der Zeile: ", zeichen_zaehlen(gelesen.text, '\n') + 1));
     const Zeitpunkt jetzt = m_g.uhr->jetzt();
@@ -258,6 +258,8 @@ Fehler unter_sperre_uebernehmen(Global& g, Importdialog& d, std::string& projekt
     if (!d.importierbar()) return Fehler::gesetzt;
     Import import(g, d);
     import.dateien_umbenennen();
+    // The chosen file has vanished since the dialog read it: there is nothing left to import.
+    if (!g.dateien.vorhanden(import.projektdatei())) return Fehler::gesetzt;
     import.batch_uebernehmen();
     import.aufruf_schreiben();
     if (ist_fehler(import.projektdatei_schreiben()) || ist_fehler(import.in_die_Liste())) return Fehler::gesetzt;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "modell/Gemeinsam.h"
+#include "modell/Meldungen.h"
 #include "modell/Version.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
@@ -32,6 +33,15 @@ std::string Logo_Datei(const Global& g)
     const bool mit_farbe = g.Verfahren_offen() && modus.size() == 1 && modus[0] >= '1' && modus[0] <= '4';
     const auto farbe = mit_farbe ? farben[static_cast<std::size_t>(modus[0] - '1')] : std::string_view{};
     return pfad_verbinden(g.EXE_Verzeichnis, verkettet("torel_", g.Land == "MT" ? "mt" : "kor", farbe, ".bmp"));
+}
+
+std::string Logo_laden(Global& g)
+{
+    std::string datei = Logo_Datei(g);
+    if (g.dateien.ist_datei(datei)) return datei;
+    stop_melden(
+        g, datei_meldung("Die Datei mit dem TOREL-Logo: ", datei, "wurde nicht gefunden! Bitte neu installieren."));
+    return {};
 }
 
 }  // namespace jorv

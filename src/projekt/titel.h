@@ -13,4 +13,7 @@ std::string Titel(const Global& g);
 /// The logo of region and mode in the directory of the programs; shown beside the title.
 std::string Logo_Datei(const Global& g);
 
+/// The same for a window that shows it: a missing file gives its message and an empty path, which means no picture.
+std::string Logo_laden(Global& g);
+
 }  // namespace jorv

@@ -85,11 +85,32 @@ TEST_F(Handarbeiten, ZweiKandidatenReichenNie)
     handarbeit_ok(p.g, h);
     const auto& t = p.g.ROVER_TOREL[1];
     EXPECT_EQ(verkettet(t.Anzahl, t.Status, t.Grund, t.Schutz ? 1 : 0, h.Knoten), "23113");
-    h.Detail.grenze_setzen(1);
-    EXPECT_EQ(handarbeit_oeffnen(p.g, "5501001a.14o", h), Fehler::gesetzt);
-    EXPECT_TRUE(p.schirm.texte().back().starts_with(
-        "Dimensionierungsfehler! (3 in detail_menge)\n    ReDim Preserve Detail(2)"));
-    EXPECT_EQ(h.Detail.anzahl(), 0);
+}
+
+TEST_F(Handarbeiten, FehlenderPlatzLaesstDasFensterLeer)
+{
+    const auto meldung = [&](const auto& engstelle) {
+        Handarbeit voll;
+        Gesamtuebersicht u;
+        engstelle(voll, u);
+        const bool gescheitert =
+            ist_fehler(handarbeit_oeffnen(p.g, "5501001a.14o", voll)) != ist_fehler(gesamtuebersicht_oeffnen(p.g, u));
+        EXPECT_TRUE(gescheitert && voll.Detail.anzahl() * u.zeit_s.anzahl() == 0);
+        const std::string text = p.schirm.texte().back();
+        return text.substr(0, text.find("\nevtl"));
+    };
+    EXPECT_EQ(meldung([](auto& a, auto&) { a.Detail.grenze_setzen(-1); }),
+              "Dimensionierungsfehler! (2 in detail_menge)\n    ReDim Detail(1)");
+    EXPECT_EQ(meldung([](auto& a, auto&) { a.Detail.grenze_setzen(1); }),
+              "Dimensionierungsfehler! (3 in detail_menge)\n    ReDim Preserve Detail(2)");
+    EXPECT_EQ(meldung([](auto& a, auto&) { a.pos_s.grenze_setzen(1); }),
+              "Dimensionierungsfehler! (4 in zeitfenster)\n    ReDim pos_s(6)");
+    EXPECT_EQ(meldung([](auto&, auto& u) { u.zeit_s.grenze_setzen(-1); }),
+              "Dimensionierungsfehler! (5 in detail_menge)\n    ReDim zeit_s(1)");
+    EXPECT_EQ(meldung([](auto&, auto& u) { u.zeit_s.grenze_setzen(2); }),
+              "Dimensionierungsfehler! (6 in detail_menge)\n    ReDim Preserve zeit_s(3)");
+    EXPECT_EQ(meldung([](auto&, auto& u) { u.pos_s.grenze_setzen(1); }),
+              "Dimensionierungsfehler!(9 in zeitfenster)\n    ReDim pos_s(9)");
 }
 
 TEST(Gesamtuebersicht, ZeigtVerfahrenTagUndFremdeAchse)

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "hilfen/Projekt.h"
@@ -12,6 +13,32 @@ using namespace jorv;
 using namespace jorv::hilfen;
 
 namespace {
+
+// Files of these names can't be read or deleted.
+namespace stoerung {
+constexpr std::string_view unlesbar = "001.BAT", unloeschbar = "001.KRZ";
+int nummer = -1;
+Systemaufrufe aufrufe()
+{
+    Systemaufrufe a = Systemaufrufe::echte();
+    a.oeffnen = [](const char* pfad, int art, unsigned rechte) {
+        const int neu = Systemaufrufe::echte().oeffnen(pfad, art, rechte);
+        if (std::string_view(pfad).ends_with(unlesbar)) nummer = neu;
+        return neu;
+    };
+    a.lesen = [](int n, void* bytes, std::size_t anzahl) {
+        return n == nummer ? -1L : Systemaufrufe::echte().lesen(n, bytes, anzahl);
+    };
+    a.schliessen = [](int n) {
+        if (n == nummer) nummer = -1;
+        return Systemaufrufe::echte().schliessen(n);
+    };
+    a.loeschen = [](const char* pfad) {
+        return std::string_view(pfad).ends_with(unloeschbar) ? -1 : Systemaufrufe::echte().loeschen(pfad);
+    };
+    return a;
+}
+}  // namespace stoerung
 
 // A full project on the disk that the list of a second user doesn't know.
 struct Import : testing::Test {
@@ -126,6 +153,47 @@ TEST_F(Import, ErhaeltDatenUnterNeuerNummer)
     EXPECT_GT(p.g.BASISLINIE.anzahl(), 0);
 }
 
+TEST_F(Import, HindernisseWerdenGemeldetUndUebergangen)
+{
+    belegen("001", "Anderes", "Z:\\anderswo");
+    const std::string v = utf8_aus_1252(p.g.Arbeitsverzeichnis) + "\\", bat = "Die Batchdatei:\n" + v;
+    for (const auto name : {"001.COO", "001.KRZ", "001.BAT"}) schreiben(p.pfad(name), "x");
+    for (const auto name : {"002.COO", "002.BAT", "Jorv.BAT"}) fs::create_directories(p.pfad(name) / "voll");
+    Importdialog d = laden();
+    import_knopf(p.g, d, Importstelle::nummer);
+    EXPECT_EQ(cmd_import(p.g, d), Fehler::keiner);
+    EXPECT_THAT(p.schirm.texte(),
+                testing::ElementsAre("Fehler beim COPY der Datei:\n" + v + "001.COO\n in die Datei:\n" + v + "002.COO",
+                                     bat + "002.BAT\nkonnte nicht angelegt/überschrieben werden!",
+                                     "Die Aufrufdatei:\n" + v +
+                                         "Jorv.BAT\nder Batchdatei konnte nicht "
+                                         "angelegt/überschrieben werden!"));
+    EXPECT_TRUE(fs::exists(p.pfad("001.COO")));
+}
+
+TEST_F(Import, WiderspenstigeUndVerschwundeneDateien)
+{
+    belegen("001", "Anderes", "Z:\\anderswo");
+    const std::string v = utf8_aus_1252(p.g.Arbeitsverzeichnis) + "\\";
+    for (const auto name : {"001.KRZ", "001.BAT"}) schreiben(p.pfad(name), "x");
+    static const Systemaufrufe gestoert = stoerung::aufrufe();
+    p.g.dateien = Dateisystem(p.g.dateien.laufwerke(), gestoert);
+    Importdialog d = laden();
+    import_knopf(p.g, d, Importstelle::nummer);
+    Importdialog ohne_datei = d;
+    EXPECT_EQ(cmd_import(p.g, d), Fehler::keiner);
+    fs::remove(p.pfad("001.KRZ"));
+    p.g.Verfahren[2].Name = "anders", p.g.Verfahren[2].Pfad = "Z:\\x";
+    import_setzen(p.g, ohne_datei, Importfeld::nummer, "003");
+    fs::remove(p.ordner.wurzel() / "einstellungen" / "JorvPlus.INI");
+    EXPECT_EQ(cmd_import(p.g, ohne_datei), Fehler::gesetzt);
+    EXPECT_THAT(p.schirm.texte(), testing::ElementsAre("Fehler beim DELETE der Datei:\n" + v + "001.KRZ",
+                                                       "Lesefehler in der Datei:\n" + v + "001.BAT\nin der Zeile: 1",
+                                                       "Fehler beim COPY der Datei:\n" + v +
+                                                           "001.INI\n in die Datei:\n" + v + "003.INI"));
+    EXPECT_EQ(p.g.Verfahren.anzahl(), 2);
+}
+
 TEST_F(Import, UmbenannteDateiAelterenStandesErhaeltEinstellungen)
 {
     Profil alt(lesen(p.pfad("001.INI")));
@@ -136,8 +204,11 @@ TEST_F(Import, UmbenannteDateiAelterenStandesErhaeltEinstellungen)
     schreiben(p.pfad(p.g.OBS_R[1].Dateiname), verkettet("    15.000", std::string(50, ' '), "INTERVAL\n"));
     auto d = m_datei_importieren(p.g, im_Verfahren(p.g, "Altes Projekt.INI"));
     ASSERT_TRUE(d && d->importierbar());
+    import_setzen(p.g, *d, Importfeld::nummer, "002");
+    fs::create_directory(p.pfad("001.BAT"));
     EXPECT_EQ(cmd_import(p.g, *d), Fehler::keiner);
-    EXPECT_TRUE(fs::exists(p.pfad("001.INI")) && fs::exists(p.pfad("Altes Projekt.INI")));
+    EXPECT_TRUE(p.schirm.einzige().ends_with("001.BAT\nkonnte nicht geöffnet werden!"));
+    EXPECT_TRUE(fs::exists(p.pfad("002.INI")) && fs::exists(p.pfad("Altes Projekt.INI")));
     EXPECT_EQ(p.g.Verfahrensmodus, "1");
     ASSERT_EQ(p.g.ROVER_Settings.anzahl(), p.g.OBS_R.anzahl());
     EXPECT_EQ(p.g.ROVER_Settings[1].ROVER_Dateiname, p.g.OBS_R[1].Dateiname);

@@ -61,3 +61,36 @@ TEST(RoverLoeschen, OhneDateiOderJaBleibtAlles)
                   "\nvorhanden! Löschfunktion abgebrochen");
     EXPECT_EQ(p.g.OBS_R.anzahl(), anzahl);
 }
+
+TEST(RoverLoeschen, EineUnloeschbareDateiBrichtAb)
+{
+    Pruefstand p;
+    volles_projekt(p.g);
+    static const Systemaufrufe gesperrt = [] {
+        Systemaufrufe a = Systemaufrufe::echte();
+        a.loeschen = [](const char*) { return -1; };
+        return a;
+    }();
+    p.g.dateien = Dateisystem(p.g.dateien.laufwerke(), gesperrt);
+    const std::string name = p.g.OBS_R[1].Dateiname;
+    schreiben(p.pfad(name), "x");
+    p.schirm.antworten = {Antwort::ja};
+    EXPECT_EQ(ROVER_Datei_loeschen(p.g, name), Fehler::gesetzt);
+    EXPECT_EQ(p.schirm.texte().back(),
+              "Die ROVER-Datei: " + name + "\nkonnte nicht gelöscht werden! Löschfunktion abgebrochen");
+    EXPECT_EQ(p.g.OBS_R.anzahl(), 2);
+}
+
+TEST(RoverLoeschen, EinFeldOhnePlatzWirdGemeldet)
+{
+    Pruefstand p("4");
+    volles_projekt(p.g);
+    basislinie(p.g, "5501001a.14o", "x");
+    p.g.BASISLINIE.grenze_setzen(0);
+    schreiben(p.pfad("5501001a.14o"), "x");
+    p.schirm.antworten = {Antwort::ja};
+    EXPECT_EQ(ROVER_Datei_loeschen(p.g, "5501001a.14o"), Fehler::gesetzt);
+    EXPECT_EQ(p.schirm.texte().back(),
+              "Dimensionierungsfehler! (85 in ROVER_Datei_loeschen)\n    ReDim Preserve BASISLINIE(1)\nevtl. "
+              "Speicherplatzprobleme!\n\nOffene Anwendungen schließen und erneut versuchen!");
+}

@@ -283,6 +283,9 @@ TEST(Titel, UndLogoFolgenModusUndLand)
         EXPECT_EQ(Titel(p.g), verkettet("Verfahren -->Muster<--(001) Modus: >", fall.buchstabe,
                                         "<   (Jorv+, Version 1.0 vom 01.12.2016)"));
         EXPECT_EQ(Logo_Datei(p.g), verkettet("Z:\\exe\\", fall.logo));
+        EXPECT_EQ(Logo_laden(p.g), "");
+        EXPECT_EQ(p.schirm.einzige(), verkettet("Die Datei mit dem TOREL-Logo: \nZ:\\exe\\", fall.logo,
+                                                "\nwurde nicht gefunden! Bitte neu installieren."));
         p.g.Verfahrensname.clear();
         EXPECT_EQ(Logo_Datei(p.g), verkettet("Z:\\exe\\torel_", fall.land[0] == 'M' ? "mt" : "kor", ".bmp"));
     }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "hilfen/Projekt.h"
+#include "projekt/verfahrenstabelle.h"
 
 using namespace jorv;
 using namespace jorv::hilfen;
@@ -114,6 +115,27 @@ TEST(Verfahrensliste, FehlenderPlatzUndFehlenderOrdnerWerdenGemeldet)
     EXPECT_EQ(Verfahrensliste_sichern(p.g), Fehler::gesetzt);
     EXPECT_EQ(p.schirm.einzige(),
               "In die Einstellungsdatei: \n" + p.g.Einstellungsdatei + "\nkonnt nicht fehlerfrei geschrieben werden!");
+}
+
+TEST(Verfahrenstabelle, SortiertDatenNachDerZeit)
+{
+    Pruefstand p;
+    p.g.Verfahren.leeren();
+    for (const auto& [nummer, datum] : {std::pair{"001", "02.01.2016"},
+                                        {"002", "31.12.2015 10:00:00"},
+                                        {"003", "02.01.2016 00:00:01"},
+                                        {"004", ""}}) {
+        ASSERT_TRUE(p.g.Verfahren.anfuegen(eintrag(nummer, verkettet(nummer[2] == '2' ? "B" : "a", nummer))));
+        p.g.Verfahren.letztes().LetztDatum = datum;
+    }
+    Verfahrenstabelle t(p.g);
+    const auto folge = [&](std::size_t spalte) {
+        t.sortieren(spalte);
+        return t.Name(0) + t.Name(1) + t.Name(2) + t.Name(3);
+    };
+    EXPECT_EQ(folge(5), "a004B002a001a003");
+    EXPECT_EQ(folge(1), "a001a003a004B002");
+    EXPECT_EQ(t.zeilen()[0][2] + t.zeilen()[0][5] + t.Breitentext(3), "S02.01.2016__Pfad des Verfahrens__");
 }
 
 TEST(LetzteVerfahren, DasOffeneRuecktNachVornUndDasNeunteFaelltHeraus)

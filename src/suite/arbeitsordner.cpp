@@ -1,6 +1,7 @@
 #include "suite/arbeitsordner.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "plattform/pfad.h"
 #include "plattform/text.h"
@@ -24,12 +25,11 @@ std::string Arbeitsordner::pfad(std::string_view name) const
     return m_pfad.empty() ? std::string(name) : pfad_verbinden(m_pfad, name);
 }
 
-std::vector<std::string> Arbeitsordner::suchen(std::string_view muster) const
+std::vector<std::string> Arbeitsordner::namen() const
 {
     std::vector<std::string> namen;
-    for (const Ordnereintrag& eintrag : m_dateien.ordner_lesen(m_pfad.empty() ? "." : m_pfad))
-        if (!eintrag.ordner && passt(eintrag.name, muster)) namen.push_back(eintrag.name);
-    std::sort(namen.begin(), namen.end());
+    for (Ordnereintrag& eintrag : m_dateien.ordner_lesen(m_pfad.empty() ? "." : m_pfad))
+        if (!eintrag.ordner) namen.push_back(std::move(eintrag.name));
     return namen;
 }
 
@@ -46,6 +46,14 @@ bool Arbeitsordner::schreiben(std::string_view name, std::string_view bytes) con
 bool Arbeitsordner::loeschen(std::string_view name) const
 {
     return !m_dateien.vorhanden(pfad(name)) || !m_dateien.loeschen(pfad(name));
+}
+
+std::vector<std::string> passende(const std::vector<std::string>& namen, std::string_view muster)
+{
+    std::vector<std::string> gefunden;
+    std::copy_if(namen.begin(), namen.end(), std::back_inserter(gefunden),
+                 [&](const std::string& name) { return passt(name, muster); });
+    return gefunden;
 }
 
 std::string_view stamm(std::string_view dateiname)

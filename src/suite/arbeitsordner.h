@@ -21,8 +21,8 @@ public:
     std::filesystem::path host(std::string_view name) const { return m_dateien.host(pfad(name)); }
     bool vorhanden(std::string_view name) const { return m_dateien.ist_datei(pfad(name)); }
 
-    /// Names of files that fit a pattern in which "?" stands for one character and "*" for any; sorted.
-    std::vector<std::string> suchen(std::string_view muster) const;
+    /// Names of the files, sorted.
+    std::vector<std::string> namen() const;
 
     /// The file in memory; `fehler` tells why not.
     Abbild lesen(std::string_view name, std::error_code& fehler) const;
@@ -35,6 +35,9 @@ private:
     Dateisystem m_dateien;
     std::string m_pfad;
 };
+
+/// The names that fit a pattern in which "?" stands for one character and "*" for any.
+std::vector<std::string> passende(const std::vector<std::string>& namen, std::string_view muster);
 
 /// The file name without its type: "30400920.05o" gives "30400920".
 std::string_view stamm(std::string_view dateiname);

@@ -7,53 +7,70 @@ namespace {
 constexpr double ERDMASSE = 3.986005e14;           // m3/s2
 constexpr double RELATIVITAET = -4.442807633e-10;  // s/sqrt(m)
 constexpr double GUELTIGKEIT = 7200.0;             // s
+constexpr double NAHE = 1e-6;                      // rad before the last of Newton's steps, which leaves 1e-14
 
-double exzentrische_anomalie(const Ephemeride& eph, double seit_toe)
-{
-    const double a = eph.wurzel_a * eph.wurzel_a;
-    const double mittlere = eph.m0 + (std::sqrt(ERDMASSE / (a * a * a)) + eph.delta_n) * seit_toe;
-    double anomalie = mittlere;
-    for (int schritt = 0; schritt < 30; ++schritt) {
-        const double neu =
-            anomalie - (anomalie - eph.e * std::sin(anomalie) - mittlere) / (1.0 - eph.e * std::cos(anomalie));
-        const bool fertig = std::abs(neu - anomalie) < 1e-14;
-        anomalie = neu;
-        if (fertig) break;
+struct Winkel {
+    double s, c;  // its sine and cosine
+    // Those of the angle turned by up to 1e-3 rad, by series.
+    Winkel um(double kleines) const
+    {
+        const double q = kleines * kleines, ds = kleines * (1.0 - q / 6.0), dc = 1.0 - q / 2.0 * (1.0 - q / 12.0);
+        return {s * dc + c * ds, c * dc - s * ds};
     }
-    return anomalie;
+};
+
+// Eccentric anomaly by Newton's steps.
+Winkel exzentrische_anomalie(double e, double mittlere)
+{
+    double anomalie = mittlere + e * std::sin(mittlere);
+    for (int schritt = 0;; ++schritt) {
+        const Winkel w{std::sin(anomalie), std::cos(anomalie)};
+        const double fehler = (anomalie - e * w.s - mittlere) / (1.0 - e * w.c);
+        if (std::abs(fehler) < NAHE || schritt == 30) return w.um(-fehler);
+        anomalie -= fehler;
+    }
 }
 
 }  // namespace
 
-Xyz satellitenort(const Ephemeride& eph, const GpsZeit& zeit)
+Satellitenlage satellitenlage(const Ephemeride& eph, const GpsZeit& zeit)
 {
-    const double t = abstand(zeit, eph.toe);
-    const double anomalie = exzentrische_anomalie(eph, t);
-    const double wahre = std::atan2(std::sqrt(1.0 - eph.e * eph.e) * std::sin(anomalie), std::cos(anomalie) - eph.e);
-    const double phi = wahre + eph.omega;
-    const double s2 = std::sin(2.0 * phi), c2 = std::cos(2.0 * phi);
-    const double u = phi + eph.cus * s2 + eph.cuc * c2;
-    const double r = eph.wurzel_a * eph.wurzel_a * (1.0 - eph.e * std::cos(anomalie)) + eph.crs * s2 + eph.crc * c2;
+    const double t = abstand(zeit, eph.toe), a = eph.wurzel_a * eph.wurzel_a, e = eph.e;
+    const double bewegung = std::sqrt(ERDMASSE / (a * a * a)) + eph.delta_n;
+    const Winkel anomalie = exzentrische_anomalie(e, eph.m0 + bewegung * t);
+    const double kruemmung = 1.0 - e * anomalie.c, wurzel = std::sqrt(1.0 - e * e);
+    const double phi = std::atan2(wurzel * anomalie.s, anomalie.c - e) + eph.omega;
+    const Winkel p{std::sin(phi), std::cos(phi)};
+    const double s2 = 2.0 * p.s * p.c, c2 = p.c * p.c - p.s * p.s;
+    const Winkel u = p.um(eph.cus * s2 + eph.cuc * c2);
+    const double r = a * kruemmung + eph.crs * s2 + eph.crc * c2;
     const double i = eph.i0 + eph.i_punkt * t + eph.cis * s2 + eph.cic * c2;
     const auto toe_in_woche = static_cast<double>(eph.toe.sekunde % 604800) + eph.toe.bruch;
-    const double knoten = eph.omega0 + (eph.omega_punkt - ERDDREHUNG) * t - ERDDREHUNG * toe_in_woche;
-    const double x = r * std::cos(u), y = r * std::sin(u);
-    return {x * std::cos(knoten) - y * std::cos(i) * std::sin(knoten),
-            x * std::sin(knoten) + y * std::cos(i) * std::cos(knoten), y * std::sin(i)};
-}
+    const double knotenlauf = eph.omega_punkt - ERDDREHUNG;
+    const double knoten = eph.omega0 + knotenlauf * t - ERDDREHUNG * toe_in_woche;
+    const double si = std::sin(i), ci = std::cos(i), sk = std::sin(knoten), ck = std::cos(knoten);
+    const double x = r * u.c, y = r * u.s;
+    const Xyz ort{x * ck - y * ci * sk, x * sk + y * ci * ck, y * si};
 
-double satellitenuhr(const Ephemeride& eph, const GpsZeit& zeit)
-{
-    const double t = abstand(zeit, eph.toc);
-    const double anomalie = exzentrische_anomalie(eph, abstand(zeit, eph.toe));
-    return eph.af0 + (eph.af1 + eph.af2 * t) * t + RELATIVITAET * eph.e * eph.wurzel_a * std::sin(anomalie);
+    const double anomalielauf = bewegung / kruemmung;
+    const double philauf = anomalielauf * wurzel / kruemmung;
+    const double ulauf = philauf * (1.0 + 2.0 * (eph.cus * c2 - eph.cuc * s2));
+    const double rlauf = a * e * anomalie.s * anomalielauf + 2.0 * philauf * (eph.crs * c2 - eph.crc * s2);
+    const double ilauf = eph.i_punkt + 2.0 * philauf * (eph.cis * c2 - eph.cic * s2);
+    const double vx = rlauf * u.c - y * ulauf, vy = rlauf * u.s + x * ulauf;
+    const double quer = vy * ci - y * si * ilauf;
+    const Xyz lauf{vx * ck - quer * sk - ort.y * knotenlauf, vx * sk + quer * ck + ort.x * knotenlauf,
+                   vy * si + y * ci * ilauf};
+
+    const double tc = abstand(zeit, eph.toc);
+    const double uhr = eph.af0 + (eph.af1 + eph.af2 * tc) * tc + RELATIVITAET * e * eph.wurzel_a * anomalie.s;
+    return {ort, lauf, uhr};
 }
 
 Xyz gedreht(const Xyz& ort, double dauer)
 {
-    const double winkel = ERDDREHUNG * dauer;
-    const double s = std::sin(winkel), c = std::cos(winkel);
-    return {c * ort.x + s * ort.y, c * ort.y - s * ort.x, ort.z};
+    const Winkel w = Winkel{0.0, 1.0}.um(ERDDREHUNG * dauer);
+    return {w.c * ort.x + w.s * ort.y, w.c * ort.y - w.s * ort.x, ort.z};
 }
 
 const Ephemeride* passende_ephemeride(const std::vector<Ephemeride>& alle, int satellit, const GpsZeit& zeit)

@@ -47,7 +47,7 @@ Enu enu(const Ort& ort, const Xyz& d)
 double elevation(const Ort& ort, const Xyz& satellit)
 {
     const Enu richtung = enu(ort, satellit - ort.xyz);
-    return std::atan2(richtung.u, std::hypot(richtung.e, richtung.n));
+    return std::atan2(richtung.u, std::sqrt(richtung.e * richtung.e + richtung.n * richtung.n));
 }
 
 Utm utm(const Geographisch& p, int zone)

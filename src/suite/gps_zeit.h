@@ -15,6 +15,11 @@ struct GpsZeit {
     auto operator<=>(const GpsZeit&) const = default;
 };
 
+/// A span of GPS time, both ends included.
+struct Zeitspanne {
+    GpsZeit von, bis;
+};
+
 struct Kalenderzeit {
     int jahr = 0, monat = 0, tag = 0, stunde = 0, minute = 0;
     double sekunde = 0.0;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <map>
 #include <set>
 #include <utility>
 
@@ -13,7 +12,7 @@ namespace {
 
 constexpr double ZEITGLEICH = 0.002;  // s, both files print milliseconds
 
-double varianz(double elevation)
+double varianz_bei(double elevation)
 {
     const double s = std::max(std::sin(elevation), 0.05);
     return 2.0 * SIGMA_PHASE * SIGMA_PHASE * (1.0 + 1.0 / (s * s));
@@ -35,12 +34,20 @@ void epochenweise(const std::vector<Restzeile>& reste, Tun tun)
 
 class Rechnung {
 public:
-    Rechnung(const Loeserausgabe& ausgabe, Massstab massstab) : m_ausgabe(ausgabe), m_massstab(massstab) {}
+    Rechnung(const Loeserausgabe& ausgabe, Massstab massstab) : m_ausgabe(ausgabe), m_massstab(massstab)
+    {
+        m_varianzen.reserve(ausgabe.reste.size());
+        for (const Restzeile& r : ausgabe.reste) m_varianzen.push_back(varianz_bei(r.elevation));
+    }
     Guetemasse ergebnis();
 
 private:
     bool ist_feste_epoche(const GpsZeit& zeit);
     double rest(const Restzeile& r) const { return m_massstab == Massstab::code ? r.rest_code : r.rest; }
+    double varianz(const Restzeile& r) const
+    {
+        return m_varianzen[static_cast<std::size_t>(&r - m_ausgabe.reste.data())];
+    }
     bool zaehlt(const Restzeile& r, bool feste_epoche) const
     {
         return r.gueltig && (m_massstab != Massstab::fest || (feste_epoche && r.fest));
@@ -50,6 +57,7 @@ private:
 
     const Loeserausgabe& m_ausgabe;
     Massstab m_massstab;
+    std::vector<double> m_varianzen;  // of each residual line
     std::size_t m_stelle = 0;
     double m_summe = 0.0;
     std::size_t m_beobachtungen = 0, m_mittelwerte = 0;
@@ -71,15 +79,15 @@ void Rechnung::quadratsumme(const Gruppe& epoche, int frequenz, bool feste_epoch
     std::size_t anzahl = 0;
     for (const Restzeile* r = epoche.first; r != epoche.second; ++r) {
         if (r->frequenz != frequenz || !zaehlt(*r, feste_epoche)) continue;
-        gewichte += 1.0 / varianz(r->elevation);
-        summe += rest(*r) / varianz(r->elevation);
+        gewichte += 1.0 / varianz(*r);
+        summe += rest(*r) / varianz(*r);
         ++anzahl;
     }
     if (anzahl < 2) return;
     for (const Restzeile* r = epoche.first; r != epoche.second; ++r) {
         if (r->frequenz != frequenz || !zaehlt(*r, feste_epoche)) continue;
         const double v = rest(*r) - summe / gewichte;
-        m_summe += v * v / varianz(r->elevation);
+        m_summe += v * v / varianz(*r);
     }
     m_beobachtungen += anzahl;
     ++m_mittelwerte;
@@ -87,15 +95,18 @@ void Rechnung::quadratsumme(const Gruppe& epoche, int frequenz, bool feste_epoch
 
 void Rechnung::geometrie(const Gruppe& epoche)
 {
-    std::map<std::string_view, std::array<double, 2>> richtungen;
-    for (const Restzeile* r = epoche.first; r != epoche.second; ++r)
-        if (r->gueltig) richtungen[r->satellit] = {r->azimut, r->elevation};
+    std::vector<std::array<double, 2>> richtungen;
+    std::vector<std::string_view> satelliten;
+    for (const Restzeile* r = epoche.first; r != epoche.second; ++r) {
+        if (!r->gueltig || std::find(satelliten.rbegin(), satelliten.rend(), r->satellit) != satelliten.rend())
+            continue;
+        satelliten.push_back(r->satellit);
+        richtungen.push_back({r->azimut, r->elevation});
+    }
     if (richtungen.empty()) return;
     ++m_epochen;
     m_satelliten += richtungen.size();
-    std::vector<std::array<double, 2>> liste;
-    for (const auto& [satellit, richtung] : richtungen) liste.push_back(richtung);
-    const double wert = pdop(liste);
+    const double wert = pdop(richtungen);
     if (wert <= 0.0) return;
     m_pdop += wert;
     m_pdop_beste = m_pdop_epochen == 0 ? wert : std::min(m_pdop_beste, wert);
@@ -111,14 +122,14 @@ Guetemasse Rechnung::ergebnis()
         for (const int frequenz : {1, 2}) quadratsumme(epoche, frequenz, fest);
         geometrie(epoche);
         for (const Restzeile* r = epoche.first; r != epoche.second; ++r)
-            if (r->fest) feste.emplace(r->satellit, r->frequenz);
+            if (r->fest) feste.insert({r->satellit, r->frequenz});
     });
     Guetemasse g;
     const auto frei = static_cast<double>(m_beobachtungen) - static_cast<double>(m_mittelwerte) - 3.0;
     if (frei > 0) g.s0 = std::sqrt(m_summe / frei);
     m_stelle = 0;
     for (const Restzeile& r : m_ausgabe.reste) {
-        const double grenze = 3.0 * g.s0 * std::sqrt(varianz(r.elevation));
+        const double grenze = 3.0 * g.s0 * std::sqrt(varianz(r));
         gueltige += r.gueltig;
         auf_festen += r.gueltig && feste.contains({r.satellit, r.frequenz});
         auffaellige += !r.gueltig || (zaehlt(r, ist_feste_epoche(r.zeit)) && std::abs(rest(r)) > grenze);

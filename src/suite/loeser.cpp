@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <random>
 #include <system_error>
 
@@ -94,8 +93,14 @@ std::string datumswort(const GpsZeit& zeit, double rand)
 
 std::string ganze_datei(const fs::path& pfad)
 {
+    std::error_code fehler;
+    const auto groesse = fs::file_size(pfad, fehler);
+    if (fehler) return {};
+    std::string text(groesse, '\0');
     std::ifstream datei(pfad, std::ios::binary);
-    return {std::istreambuf_iterator<char>(datei), std::istreambuf_iterator<char>()};
+    datei.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(std::max<std::streamsize>(0, datei.gcount())));
+    return text;
 }
 
 // The progress lines, which end in CR alone, are no message.

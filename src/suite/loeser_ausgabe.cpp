@@ -13,22 +13,29 @@ namespace {
 constexpr std::size_t POSITIONSWORTE = 15;
 constexpr std::size_t RESTWORTE = 17;
 
-std::vector<std::string_view> zerlegt(std::string_view zeile, char trenner, bool leere)
+// The words of a line that has exactly N; with `leere` two separators in a row hold an empty word.
+template <std::size_t N>
+std::optional<std::array<std::string_view, N>> zerlegt(std::string_view zeile, char trenner, bool leere)
 {
-    std::vector<std::string_view> worte;
+    std::array<std::string_view, N> worte;
+    std::size_t anzahl = 0;
     for (std::size_t stelle = 0; stelle <= zeile.size();) {
         const auto ende = std::min(zeile.find(trenner, stelle), zeile.size());
-        if (leere || ende > stelle) worte.push_back(zeile.substr(stelle, ende - stelle));
+        if (leere || ende > stelle) {
+            if (anzahl == N) return {};
+            worte[anzahl++] = zeile.substr(stelle, ende - stelle);
+        }
         stelle = ende + 1;
     }
-    return worte;
+    return anzahl == N ? std::optional(worte) : std::nullopt;
 }
 
 // "2005/04/02" and "00:00:30.000".
 std::optional<GpsZeit> zeit_aus(std::string_view datum, std::string_view uhr)
 {
-    const auto d = zerlegt(datum, '/', true), u = zerlegt(uhr, ':', true);
-    if (d.size() != 3 || u.size() != 3) return {};
+    const auto tag = zerlegt<3>(datum, '/', true), zeit = zerlegt<3>(uhr, ':', true);
+    if (!tag || !zeit) return {};
+    const auto &d = *tag, &u = *zeit;
     std::array<int, 5> zahl{};
     const std::array<std::string_view, 5> teile = {d[0], d[1], d[2], u[0], u[1]};
     for (std::size_t i = 0; i < teile.size(); ++i) zahl[i] = spaltenganz(teile[i]).value_or(-1);
@@ -37,8 +44,9 @@ std::optional<GpsZeit> zeit_aus(std::string_view datum, std::string_view uhr)
 
 std::optional<Position> position_lesen(std::string_view zeile)
 {
-    const auto wort = zerlegt(zeile, ' ', false);
-    if (wort.size() != POSITIONSWORTE) return {};
+    const auto worte = zerlegt<POSITIONSWORTE>(zeile, ' ', false);
+    if (!worte) return {};
+    const auto& wort = *worte;
     const auto zeit = zeit_aus(wort[0], wort[1]);
     std::array<double, 13> zahl{};
     for (std::size_t i = 0; i < zahl.size(); ++i) {
@@ -59,8 +67,9 @@ std::optional<Position> position_lesen(std::string_view zeile)
 
 std::optional<Restzeile> rest_lesen(std::string_view zeile)
 {
-    const auto wort = zerlegt(zeile, ',', true);
-    if (wort.size() != RESTWORTE) return {};
+    const auto worte = zerlegt<RESTWORTE>(zeile, ',', true);
+    if (!worte) return {};
+    const auto& wort = *worte;
     const auto woche = spaltenganz(wort[1]), frequenz = spaltenganz(wort[4]), gueltig = spaltenganz(wort[9]),
                fest = spaltenganz(wort[11]);
     const auto sekunde = spaltenzahl(wort[2]), azimut = spaltenzahl(wort[5]), elevation = spaltenzahl(wort[6]),

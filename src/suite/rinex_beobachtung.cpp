@@ -21,9 +21,20 @@ struct Epochenzeile {
     int anzahl = 0;  // satellites, or lines of an event
 };
 
+// Two columns: "07", " 7", "7 "; negative when they hold no number.
+int satellitennummer(char zehner, char einer)
+{
+    if (einer == ' ') std::swap(zehner, einer);
+    const bool gut = einer >= '0' && einer <= '9' && (zehner == ' ' || (zehner >= '0' && zehner <= '9'));
+    return gut ? (zehner == ' ' ? 0 : 10 * (zehner - '0')) + (einer - '0') : -1;
+}
+
 class Leser {
 public:
-    Leser(std::string_view text, Umfang umfang) : m_rest(text), m_umfang(umfang) {}
+    Leser(std::string_view text, Umfang umfang, const std::optional<Zeitspanne>& fenster)
+        : m_rest(text), m_umfang(umfang), m_fenster(fenster)
+    {
+    }
 
     bool kopf(std::string& grund);
     void daten();
@@ -37,12 +48,14 @@ private:
     bool ereignis(const Epochenzeile& e);
     bool epoche(std::string_view z, const Epochenzeile& e);
     bool satelliten_lesen(std::string_view z, int anzahl);
-    bool messung_lesen(Messung& ziel, bool behalten);
+    bool messung_lesen(Messung& ziel);
+    bool ueberspringen(std::size_t zeilen);
     void wert_lesen(std::string_view z, std::size_t platz, std::size_t art, Messung& ziel) const;
     void hinweise_sammeln();
 
     std::string_view m_rest;
     Umfang m_umfang;
+    std::optional<Zeitspanne> m_fenster;
     RinexBeobachtung m_ziel;
     std::vector<int> m_spalten;  // place of each column's kind in ARTNAMEN, -1 for other kinds
     std::size_t m_arten_angesagt = 0;
@@ -193,9 +206,9 @@ bool Leser::satelliten_lesen(std::string_view z, int anzahl)
         const std::size_t spalte = 32 + 3 * platz;
         if (z.size() < spalte + 3) return false;
         const char system = z[spalte] == ' ' ? m_leeres_system : z[spalte];
-        const auto nummer = spaltenganz(spalten(z, spalte + 1, 2));
-        if (!nummer || *nummer < 0) return false;
-        m_satelliten.push_back(system == 'G' ? *nummer : 0);
+        const int nummer = satellitennummer(z[spalte + 1], z[spalte + 2]);
+        if (nummer < 0) return false;
+        m_satelliten.push_back(system == 'G' ? nummer : 0);
     }
     return true;
 }
@@ -211,14 +224,22 @@ void Leser::wert_lesen(std::string_view z, std::size_t platz, std::size_t art, M
     if (z.size() > spalte + 15) ziel.staerke[art] = z[spalte + 15];
 }
 
-bool Leser::messung_lesen(Messung& ziel, bool behalten)
+bool Leser::messung_lesen(Messung& ziel)
 {
     std::string_view z;
     for (std::size_t i = 0; i < m_spalten.size(); ++i) {
         const std::size_t platz = i % WERTE_JE_ZEILE;
         if (platz == 0 && !zeile(z)) return false;
-        if (behalten && m_spalten[i] >= 0) wert_lesen(z, platz, static_cast<std::size_t>(m_spalten[i]), ziel);
+        if (m_spalten[i] >= 0) wert_lesen(z, platz, static_cast<std::size_t>(m_spalten[i]), ziel);
     }
+    return true;
+}
+
+bool Leser::ueberspringen(std::size_t zeilen)
+{
+    std::string_view z;
+    for (; zeilen > 0; --zeilen)
+        if (!zeile(z)) return false;
     return true;
 }
 
@@ -228,17 +249,24 @@ bool Leser::epoche(std::string_view z, const Epochenzeile& e)
     const std::size_t erste = m_ziel.messungen.size();
     const bool doppelt = !m_ziel.epochen.empty() && e.zeit <= m_ziel.epochen.back().zeit;
     const bool benutzt = e.kennung <= 1 && !doppelt;
-    for (const int satellit : m_satelliten) {
-        Messung messung;
-        messung.satellit = satellit;
+    const bool gewollt =
+        benutzt && m_umfang == Umfang::alles && (!m_fenster || (m_fenster->von <= e.zeit && e.zeit <= m_fenster->bis));
+    const std::size_t zeilen = (m_spalten.size() + WERTE_JE_ZEILE - 1) / WERTE_JE_ZEILE;
+    bool ganz = gewollt || ueberspringen(zeilen * m_satelliten.size());
+    for (std::size_t i = 0; gewollt && ganz && i < m_satelliten.size(); ++i) {
+        if (m_satelliten[i] == 0) {
+            ganz = ueberspringen(zeilen);
+            continue;
+        }
+        Messung& messung = m_ziel.messungen.emplace_back();
+        messung.satellit = m_satelliten[i];
         messung.schlupf.fill(' ');
         messung.staerke.fill(' ');
-        const bool behalten = benutzt && satellit > 0 && m_umfang == Umfang::alles;
-        if (!messung_lesen(messung, behalten)) {
-            m_ziel.messungen.resize(erste);
-            return false;
-        }
-        if (behalten) m_ziel.messungen.push_back(messung);
+        ganz = messung_lesen(messung);
+    }
+    if (!ganz) {
+        m_ziel.messungen.resize(erste);
+        return false;
     }
     if (e.kennung <= 1 && doppelt) ++m_rueckwaerts;
     if (!benutzt || m_satelliten.empty()) return true;
@@ -266,9 +294,10 @@ double RinexBeobachtung::intervall() const
     return std::round(*mitte * 1000.0) / 1000.0;
 }
 
-std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund)
+std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund,
+                                                  const std::optional<Zeitspanne>& fenster)
 {
-    Leser leser(text, umfang);
+    Leser leser(text, umfang, fenster);
     if (!leser.kopf(grund)) return {};
     if (umfang != Umfang::kopf) leser.daten();
     return leser.ergebnis();

@@ -63,7 +63,9 @@ struct RinexBeobachtung {
 };
 
 /// Reads a file's text. Nothing with a German reason in `grund` when it is no RINEX 2 observation file.
+/// With a window all epochs are listed, but only those inside it hold observations.
 /// A change to a moving antenna or to another site after data have been read ends the reading there, with a remark.
-std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund);
+std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund,
+                                                  const std::optional<Zeitspanne>& fenster = {});
 
 }  // namespace jorv::suite

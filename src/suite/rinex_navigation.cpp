@@ -35,7 +35,8 @@ std::optional<double> satzzahl(const Satzzeilen& zeilen, std::size_t zeile, std:
     return spaltenzahl(spalten(zeilen[zeile], 3 + 19 * spalte, 19));
 }
 
-std::optional<Ephemeride> satz_lesen(const Satzzeilen& zeilen)
+// What tells one set from another: satellite, both reference times, issue.
+std::optional<Ephemeride> kennung_lesen(const Satzzeilen& zeilen)
 {
     Ephemeride eph;
     const auto satellit = spaltenganz(spalten(zeilen[0], 0, 2));
@@ -46,23 +47,29 @@ std::optional<Ephemeride> satz_lesen(const Satzzeilen& zeilen)
         datum[i] = *zahl;
     }
     const auto sekunde = spaltenzahl(spalten(zeilen[0], 17, 5));
-    const auto toe = satzzahl(zeilen, 3, 0);
-    if (!satellit || *satellit < 1 || *satellit > 99 || !sekunde || !toe || *toe < 0 || *toe > WOCHE) return {};
+    const auto toe = satzzahl(zeilen, 3, 0), iode = satzzahl(zeilen, 1, 0);
+    if (!iode || !satellit || *satellit < 1 || *satellit > 99 || !sekunde || !toe || *toe < 0 || *toe > WOCHE)
+        return {};
     const auto toc = gps_zeit({volles_jahr(datum[0]), datum[1], datum[2], datum[3], datum[4], *sekunde});
     if (!toc) return {};
-    for (const Satzfeld& feld : FELDER) {
-        const auto zahl = satzzahl(zeilen, feld.zeile, feld.spalte);
-        if (!zahl) return {};
-        eph.*feld.ziel = *zahl;
-    }
-    if (eph.wurzel_a < 1000 || eph.e < 0 || eph.e >= 0.5) return {};
     eph.satellit = *satellit;
+    eph.iode = *iode;
     eph.toc = *toc;
     // The week number of old files has rolled over or names the week of transmission: the set's own clock time decides.
     eph.toe = gps_zeit(woche(*toc), *toe);
     if (abstand(eph.toe, *toc) > WOCHE / 2) eph.toe = verschoben(eph.toe, -WOCHE);
     if (abstand(eph.toe, *toc) < -WOCHE / 2) eph.toe = verschoben(eph.toe, WOCHE);
     return eph;
+}
+
+bool felder_lesen(const Satzzeilen& zeilen, Ephemeride& eph)
+{
+    for (const Satzfeld& feld : FELDER) {
+        const auto zahl = satzzahl(zeilen, feld.zeile, feld.spalte);
+        if (!zahl) return false;
+        eph.*feld.ziel = *zahl;
+    }
+    return eph.wurzel_a >= 1000 && eph.e >= 0 && eph.e < 0.5;
 }
 
 bool schon_da(const Navigation& navigation, const Ephemeride& eph)
@@ -98,10 +105,12 @@ int navigation_lesen(std::string_view text, Navigation& ziel)
         if (!spalten(*zeile, 0, 2).empty()) anzahl = 0;
         if (anzahl < ZEILEN_JE_SATZ) zeilen[anzahl] = *zeile;
         if (++anzahl != ZEILEN_JE_SATZ) continue;
-        const auto eph = satz_lesen(zeilen);
-        if (!eph) continue;
+        // The files of neighbouring stations hold the same sets: their numbers are read once.
+        auto eph = kennung_lesen(zeilen);
+        const bool doppelt = eph && schon_da(ziel, *eph);
+        if (!eph || (!doppelt && !felder_lesen(zeilen, *eph))) continue;
         ++gelesen;
-        if (schon_da(ziel, *eph)) continue;
+        if (doppelt) continue;
         ziel.saetze.push_back(*eph);
         std::string satz;
         for (const std::string_view z : zeilen) satz.append(z).append("\r\n");

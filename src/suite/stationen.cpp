@@ -9,6 +9,7 @@ namespace jorv::suite {
 namespace {
 
 constexpr double TAG = 86400.0;
+constexpr double RAND = 900.0;   // s; longer intervals between two epochs don't occur
 constexpr double UNGENAU = 0.1;  // s by which time tags may lie beside the full second
 
 std::string zweistellig(int zahl)
@@ -64,7 +65,7 @@ std::string mit_art(std::string_view dateiname, char art)
 }
 
 std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::string_view name, Umfang umfang,
-                                             Protokoll& protokoll)
+                                             Protokoll& protokoll, const std::optional<Zeitspanne>& fenster)
 {
     std::error_code fehler;
     const Abbild abbild = ordner.lesen(name, fehler);
@@ -73,7 +74,7 @@ std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::s
         return {};
     }
     std::string grund;
-    auto daten = beobachtung_lesen(abbild.text(), umfang, grund);
+    auto daten = beobachtung_lesen(abbild.text(), umfang, grund, fenster);
     if (!daten) {
         protokoll.fehler(verkettet("Die Datei ", name, " ", grund, "!"));
         return {};
@@ -82,14 +83,14 @@ std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::s
     return Beobachtungsdatei{std::string(name), std::move(*daten)};
 }
 
-std::vector<std::string> stationsdateien(const Arbeitsordner& ordner, std::string_view station, std::string_view rover,
-                                         const Zeitspanne& spanne)
+std::vector<std::string> stationsdateien(const std::vector<std::string>& alle, std::string_view station,
+                                         std::string_view rover, const Zeitspanne& spanne)
 {
     std::vector<std::string> namen;
     for (GpsZeit tag = spanne.von;; tag = verschoben(tag, TAG)) {
         const int jahr = kalenderzeit(tag).jahr % 100;
         const auto gefunden =
-            ordner.suchen(verkettet(station, dreistellig(tag_im_jahr(tag)), "?.", zweistellig(jahr), "o"));
+            passende(alle, verkettet(station, dreistellig(tag_im_jahr(tag)), "?.", zweistellig(jahr), "o"));
         namen.insert(namen.end(), gefunden.begin(), gefunden.end());
         if (tag.sekunde / 86400 >= spanne.bis.sekunde / 86400) break;
     }
@@ -102,9 +103,10 @@ std::vector<std::string> stationsdateien(const Arbeitsordner& ordner, std::strin
 std::optional<Beobachtungsdatei> station_lesen(const Arbeitsordner& ordner, const std::vector<std::string>& dateien,
                                                const Zeitspanne& spanne, Protokoll& protokoll)
 {
+    const Zeitspanne fenster{verschoben(spanne.von, -RAND), verschoben(spanne.bis, RAND)};
     std::vector<Beobachtungsdatei> teile;
     for (const std::string& name : dateien) {
-        auto teil = datei_lesen(ordner, name, Umfang::alles, protokoll);
+        auto teil = datei_lesen(ordner, name, Umfang::alles, protokoll, fenster);
         if (!teil) continue;
         beschneiden(teil->daten, spanne);
         if (teil->daten.epochen.empty()) continue;
@@ -114,6 +116,7 @@ std::optional<Beobachtungsdatei> station_lesen(const Arbeitsordner& ordner, cons
         if (fertig) break;
     }
     if (teile.empty()) return {};
+    if (teile.size() == 1) return std::move(teile.front());
     std::sort(teile.begin(), teile.end(), [](const Beobachtungsdatei& a, const Beobachtungsdatei& b) {
         return a.daten.epochen.front().zeit < b.daten.epochen.front().zeit;
     });
@@ -141,7 +144,7 @@ Navigation navigation_suchen(const Arbeitsordner& ordner, const std::vector<std:
     }
     if (!navigation.saetze.empty() || beobachtungsdateien.empty()) return navigation;
     const std::string jahr(rechts(ohne_ende(beobachtungsdateien.back(), 1), 2));
-    for (const std::string& name : ordner.suchen(verkettet("*.", jahr, "n"))) lesen(name);
+    for (const std::string& name : passende(ordner.namen(), verkettet("*.", jahr, "n"))) lesen(name);
     return navigation;
 }
 

@@ -13,11 +13,6 @@
 
 namespace jorv::suite {
 
-/// A span of GPS time, both ends included.
-struct Zeitspanne {
-    GpsZeit von, bis;
-};
-
 /// A rover's or station's file as the programs need it.
 struct Beobachtungsdatei {
     std::string name;
@@ -27,14 +22,15 @@ struct Beobachtungsdatei {
 /// Reads an observation file of the folder; its remarks go to the protocol. Nothing, with an ERROR line, when it can't
 /// be used.
 std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::string_view name, Umfang umfang,
-                                             Protokoll& protokoll);
+                                             Protokoll& protokoll, const std::optional<Zeitspanne>& fenster = {});
 
 /// A plausible place on the ground: between 6300 and 6450 km from the earth's centre.
 bool ist_erdort(const Xyz& ort);
 
-/// Observation files of the station for the days of the span, those of the rover's session first.
-std::vector<std::string> stationsdateien(const Arbeitsordner& ordner, std::string_view station, std::string_view rover,
-                                         const Zeitspanne& spanne);
+/// Observation files of the station for the days of the span among the folder's names, those of the rover's session
+/// first.
+std::vector<std::string> stationsdateien(const std::vector<std::string>& alle, std::string_view station,
+                                         std::string_view rover, const Zeitspanne& spanne);
 
 /// The station's observations inside the span (an interval of its own wider at both ends), joined from as many of the
 /// files as are needed. Nothing when none holds any.

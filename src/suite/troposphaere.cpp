@@ -47,29 +47,31 @@ Zenitlaufzeit zenitlaufzeit(const Geographisch& ort)
             0.002277 * (1255.0 / temperatur + 0.05) * dampf};
 }
 
-Abbildung niell(const Geographisch& ort, double tag, double elevation)
+Niell::Niell(const Geographisch& ort, double tag) : m_km(ort.hoehe / 1000.0)
 {
     const double grad = std::abs(ort.breite) / GRAD;
     const double jahr = (tag - 28.0) / 365.25 + (ort.breite < 0 ? 0.5 : 0.0);
     const double gang = std::cos(2.0 * std::numbers::pi * jahr);
-    std::array<double, 3> trocken{}, feucht{};
     for (std::size_t i = 0; i < 3; ++i) {
-        trocken[i] = aus_tafel(TROCKEN_MITTEL[i], grad) - aus_tafel(TROCKEN_JAHRESGANG[i], grad) * gang;
-        feucht[i] = aus_tafel(FEUCHT[i], grad);
+        m_trocken[i] = aus_tafel(TROCKEN_MITTEL[i], grad) - aus_tafel(TROCKEN_JAHRESGANG[i], grad) * gang;
+        m_feucht[i] = aus_tafel(FEUCHT[i], grad);
     }
-    const double sinus = std::sin(elevation);
-    const double hoehenanteil = (1.0 / sinus - kettenbruch(sinus, HOEHE[0], HOEHE[1], HOEHE[2])) * ort.hoehe / 1000.0;
-    return {kettenbruch(sinus, trocken[0], trocken[1], trocken[2]) + hoehenanteil,
-            kettenbruch(sinus, feucht[0], feucht[1], feucht[2])};
 }
 
-double laufzeit(Troposphaerenmodell modell, const Geographisch& ort, double tag, double elevation)
+Abbildung Niell::bei(double elevation) const
 {
-    if (modell == Troposphaerenmodell::ohne || elevation <= 0) return 0.0;
-    const Zenitlaufzeit zenit = zenitlaufzeit(ort);
-    const Abbildung abbildung = niell(ort, tag, elevation);
-    const double trocken = zenit.hydrostatisch * abbildung.hydrostatisch;
-    return modell == Troposphaerenmodell::hydrostatisch ? trocken : trocken + zenit.feucht * abbildung.feucht;
+    const double sinus = std::sin(elevation);
+    const double hoehenanteil = (1.0 / sinus - kettenbruch(sinus, HOEHE[0], HOEHE[1], HOEHE[2])) * m_km;
+    return {kettenbruch(sinus, m_trocken[0], m_trocken[1], m_trocken[2]) + hoehenanteil,
+            kettenbruch(sinus, m_feucht[0], m_feucht[1], m_feucht[2])};
+}
+
+double Luft::laufzeit(double elevation) const
+{
+    if (m_modell == Troposphaerenmodell::ohne || elevation <= 0) return 0.0;
+    const Abbildung abbildung = m_niell.bei(elevation);
+    const double trocken = m_zenit.hydrostatisch * abbildung.hydrostatisch;
+    return m_modell == Troposphaerenmodell::hydrostatisch ? trocken : trocken + m_zenit.feucht * abbildung.feucht;
 }
 
 }  // namespace jorv::suite

@@ -16,13 +16,35 @@ struct Zenitlaufzeit {
 };
 Zenitlaufzeit zenitlaufzeit(const Geographisch& ort);
 
-/// Mapping functions of Niell (1996), Journal of Geophysical Research 101(B2); `tag` is the day of the year.
+/// Mapping functions of Niell (1996), Journal of Geophysical Research 101(B2), at a place; `tag` is the day of the
+/// year.
 struct Abbildung {
     double hydrostatisch = 1.0, feucht = 1.0;
 };
-Abbildung niell(const Geographisch& ort, double tag, double elevation);
+class Niell {
+public:
+    Niell(const Geographisch& ort, double tag);
+    Abbildung bei(double elevation) const;
 
-/// Slant delay in metres; zero below the horizon.
-double laufzeit(Troposphaerenmodell modell, const Geographisch& ort, double tag, double elevation);
+private:
+    std::array<double, 3> m_trocken{}, m_feucht{};
+    double m_km = 0.0;
+};
+
+/// The atmosphere over a place at a time, for the slant delays to all satellites.
+class Luft {
+public:
+    Luft(Troposphaerenmodell modell, const Geographisch& ort, double tag)
+        : m_modell(modell), m_zenit(zenitlaufzeit(ort)), m_niell(ort, tag)
+    {
+    }
+    /// Slant delay in metres; zero below the horizon.
+    double laufzeit(double elevation) const;
+
+private:
+    Troposphaerenmodell m_modell;
+    Zenitlaufzeit m_zenit;
+    Niell m_niell;
+};
 
 }  // namespace jorv::suite

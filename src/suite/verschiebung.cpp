@@ -7,40 +7,47 @@ namespace {
 constexpr int SCHRITTE = 10;
 constexpr double GENAU = 1e-13;  // s, 0.03 mm of range
 
-// Travel time from a satellite whose place at transmission is known, by the earth's rotation on the way.
-double laufzeit_ab_sendung(const Xyz& satellit, const Xyz& empfaenger)
+// Repeats a step that gives a better travel time until it stands.
+template <typename Schritt>
+double laufzeit_suchen(double dauer, Schritt schritt)
 {
-    double dauer = 0.075;
-    for (int i = 0; i < 4; ++i) dauer = laenge(gedreht(satellit, dauer) - empfaenger) / LICHT;
+    for (int i = 0; i < SCHRITTE; ++i) {
+        const double neu = schritt(dauer);
+        const bool fertig = std::abs(neu - dauer) < GENAU;
+        dauer = neu;
+        if (fertig) break;
+    }
     return dauer;
+}
+
+double tag_mit_bruch(const GpsZeit& zeit)
+{
+    return static_cast<double>(tag_im_jahr(zeit)) + static_cast<double>(zeit.sekunde % 86400) / 86400.0;
 }
 
 }  // namespace
 
-Verschiebung verschiebung(const Ephemeride& eph, const GpsZeit& zeitmarke, double code, const Ort& von, const Ort& nach,
-                          Troposphaerenmodell modell)
+Verschieber::Verschieber(const Ort& von, const Ort& nach, Troposphaerenmodell modell, const GpsZeit& zeitmarke)
+    : Verschieber(von, nach, modell, zeitmarke, tag_mit_bruch(zeitmarke))
 {
-    GpsZeit sendung = verschoben(zeitmarke, -code / LICHT);
-    sendung = verschoben(sendung, -satellitenuhr(eph, sendung));
-    const Xyz dort = satellitenort(eph, sendung);
-    const double dauer_von = laufzeit_ab_sendung(dort, von.xyz);
-    const GpsZeit empfang = verschoben(sendung, dauer_von);
+}
 
-    double dauer_nach = dauer_von;
+Verschiebung Verschieber::rechnen(const Ephemeride& eph, double code) const
+{
+    // One orbit serves all instants here: they lie within the satellite's clock error and the difference of the two
+    // travel times, both under a few milliseconds.
+    const Satellitenlage lage = satellitenlage(eph, verschoben(m_zeitmarke, -code / LICHT));
+    const Xyz sendung = lage.nach(-lage.uhr);
+    const double dauer_von = laufzeit_suchen(
+        code / LICHT, [&](double dauer) { return laenge(gedreht(sendung, dauer) - m_von.xyz) / LICHT; });
     Xyz satellit;
-    for (int i = 0; i < SCHRITTE; ++i) {
-        satellit = gedreht(satellitenort(eph, verschoben(empfang, -dauer_nach)), dauer_nach);
-        const double neu = laenge(satellit - nach.xyz) / LICHT;
-        const bool fertig = std::abs(neu - dauer_nach) < GENAU;
-        dauer_nach = neu;
-        if (fertig) break;
-    }
-
-    const auto tag =
-        static_cast<double>(tag_im_jahr(zeitmarke)) + static_cast<double>(zeitmarke.sekunde % 86400) / 86400.0;
-    const double hoch_von = elevation(von, gedreht(dort, dauer_von));
-    const double hoch_nach = elevation(nach, satellit);
-    const double luft = laufzeit(modell, nach.blh, tag, hoch_nach) - laufzeit(modell, von.blh, tag, hoch_von);
+    const double dauer_nach = laufzeit_suchen(dauer_von, [&](double dauer) {
+        satellit = gedreht(lage.nach(-lage.uhr + dauer_von - dauer), dauer);
+        return laenge(satellit - m_nach.xyz) / LICHT;
+    });
+    const double hoch_von = elevation(m_von, gedreht(sendung, dauer_von));
+    const double hoch_nach = elevation(m_nach, satellit);
+    const double luft = m_luft_nach.laufzeit(hoch_nach) - m_luft_von.laufzeit(hoch_von);
     return {LICHT * (dauer_nach - dauer_von) + luft, hoch_nach};
 }
 

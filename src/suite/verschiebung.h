@@ -12,10 +12,30 @@ struct Verschiebung {
     double elevation = 0.0;  // of the satellite above the new place, radians
 };
 
-/// Shift from station `von` to `nach` for an observation with the receiver's time tag and the code in metres. The code
-/// carries the receiver's clock, so transmission and true reception come out right whatever that clock does; both
-/// places receive at the same true instant, hence from two slightly different places of the satellite.
-Verschiebung verschiebung(const Ephemeride& eph, const GpsZeit& zeitmarke, double code, const Ort& von, const Ort& nach,
-                          Troposphaerenmodell modell);
+/// Shifts from station `von` to `nach`, epoch by epoch.
+class Verschieber {
+public:
+    /// For observations with that time tag of the receiver.
+    Verschieber(const Ort& von, const Ort& nach, Troposphaerenmodell modell, const GpsZeit& zeitmarke);
+
+    /// The shift for a code in metres. The code carries the receiver's clock, so transmission and true reception come
+    /// out right whatever that clock does; both places receive at the same true instant, hence from two slightly
+    /// different places of the satellite.
+    Verschiebung rechnen(const Ephemeride& eph, double code) const;
+
+private:
+    Verschieber(const Ort& von, const Ort& nach, Troposphaerenmodell modell, const GpsZeit& zeitmarke, double tag)
+        : m_von(von),
+          m_nach(nach),
+          m_zeitmarke(zeitmarke),
+          m_luft_von(modell, von.blh, tag),
+          m_luft_nach(modell, nach.blh, tag)
+    {
+    }
+
+    const Ort &m_von, &m_nach;
+    GpsZeit m_zeitmarke;
+    Luft m_luft_von, m_luft_nach;
+};
 
 }  // namespace jorv::suite

@@ -1,6 +1,7 @@
 #include "suite/virtuelle_station.h"
 
 #include <algorithm>
+#include <map>
 
 #include "plattform/text.h"
 #include "plattform/zahl.h"
@@ -104,6 +105,7 @@ private:
     const Arbeitsordner& m_ordner;
     const Uhr& m_uhr;
     Protokoll& m_protokoll;
+    const std::vector<std::string> m_namen = m_ordner.namen();
     Xyz m_virtuell;
     Zeitspanne m_spanne;
     Kandidat m_master;
@@ -137,7 +139,7 @@ std::vector<Kandidat> Lauf::kandidaten()
     const Koordinaten koordinaten(m_ordner, m_aufruf.koordinatendatei, m_protokoll);
     std::vector<Kandidat> alle;
     for (const std::string& station : m_aufruf.stationen) {
-        Kandidat k{station, stationsdateien(m_ordner, station, m_aufruf.rover, m_spanne), {}, 0.0};
+        Kandidat k{station, stationsdateien(m_namen, station, m_aufruf.rover, m_spanne), {}, 0.0};
         if (k.dateien.empty()) {
             m_protokoll.warnung(verkettet("Keine Beobachtungsdatei der Station ", station, u8" für diesen Tag."_w));
             continue;
@@ -177,7 +179,7 @@ bool Lauf::navigation_bereitstellen()
 {
     std::vector<std::string> dateien = m_master.dateien;
     for (const std::string& station : m_aufruf.stationen)
-        for (std::string& name : stationsdateien(m_ordner, station, m_aufruf.rover, m_spanne))
+        for (std::string& name : stationsdateien(m_namen, station, m_aufruf.rover, m_spanne))
             if (station != m_master.station) dateien.push_back(std::move(name));
     dateien.push_back(m_aufruf.rover);
     m_navigation = navigation_suchen(m_ordner, dateien, true, m_protokoll);
@@ -188,29 +190,31 @@ bool Lauf::navigation_bereitstellen()
 void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
 {
     const double maske = m_aufruf.elevation * GRAD;
-    std::vector<Messung> neu;
-    neu.reserve(daten.messungen.size());
+    std::map<int, std::vector<Ephemeride>> saetze;
+    for (const Ephemeride& eph : m_navigation.saetze) saetze[eph.satellit].push_back(eph);
+    std::size_t behalten = 0;  // observations move forward in their own array
     for (Epoche& e : daten.epochen) {
-        const std::size_t erste = neu.size();
+        const Verschieber verschieber(von, nach, m_aufruf.modell, e.zeit);
+        const std::size_t erste = behalten;
         for (std::size_t i = 0; i < e.anzahl; ++i) {
             Messung m = daten.messungen[e.erste + i];
             const double strecke = code(m);
-            const Ephemeride* eph = passende_ephemeride(m_navigation.saetze, m.satellit, e.zeit);
+            const Ephemeride* eph = passende_ephemeride(saetze[m.satellit], m.satellit, e.zeit);
             m_statistik.ohne_code += strecke == 0.0;
             m_statistik.ohne_bahn += strecke != 0.0 && !eph;
             if (strecke == 0.0 || !eph) continue;
-            const Verschiebung v = verschiebung(*eph, e.zeit, strecke, von, nach, m_aufruf.modell);
+            const Verschiebung v = verschieber.rechnen(*eph, strecke);
             m_statistik.unter_maske += v.elevation < maske;
             if (v.elevation < maske) continue;
             m_statistik.groesste = std::max(m_statistik.groesste, v.strecke);
             m_statistik.kleinste = std::min(m_statistik.kleinste, v.strecke);
             verschieben(m, v.strecke);
-            neu.push_back(m);
+            daten.messungen[behalten++] = m;
         }
         e.erste = erste;
-        e.anzahl = neu.size() - erste;
+        e.anzahl = behalten - erste;
     }
-    daten.messungen = std::move(neu);
+    daten.messungen.resize(behalten);
     std::erase_if(daten.epochen, [](const Epoche& e) { return e.anzahl == 0; });
 }
 

@@ -48,12 +48,12 @@ TEST(Geodaesie, luft_verzoegert_wie_die_normalatmosphaere)
     EXPECT_NEAR(zenitlaufzeit(meer).hydrostatisch, 2.307, 0.001);
     EXPECT_NEAR(zenitlaufzeit(berg).hydrostatisch / zenitlaufzeit(meer).hydrostatisch, 0.7846, 0.002);
     EXPECT_NEAR(zenitlaufzeit(meer).feucht, 0.10, 0.02);
-    EXPECT_NEAR(niell(meer, 28, 90 * GRAD).hydrostatisch, 1.0, 1e-12);
-    EXPECT_NEAR(niell(meer, 28, 30 * GRAD).hydrostatisch, 1.9923, 0.001);
-    EXPECT_NEAR(niell(meer, 28, 5 * GRAD).hydrostatisch, 10.15, 0.05);
-    EXPECT_NEAR(niell(meer, 28, 5 * GRAD).feucht, 10.75, 0.05);
-    EXPECT_GT(niell(berg, 28, 5 * GRAD).hydrostatisch, niell(meer, 28, 5 * GRAD).hydrostatisch);
-    EXPECT_EQ(laufzeit(Troposphaerenmodell::voll, meer, 28, -0.01), 0.0);
+    EXPECT_NEAR(Niell(meer, 28).bei(90 * GRAD).hydrostatisch, 1.0, 1e-12);
+    EXPECT_NEAR(Niell(meer, 28).bei(30 * GRAD).hydrostatisch, 1.9923, 0.001);
+    EXPECT_NEAR(Niell(meer, 28).bei(5 * GRAD).hydrostatisch, 10.15, 0.05);
+    EXPECT_NEAR(Niell(meer, 28).bei(5 * GRAD).feucht, 10.75, 0.05);
+    EXPECT_GT(Niell(berg, 28).bei(5 * GRAD).hydrostatisch, Niell(meer, 28).bei(5 * GRAD).hydrostatisch);
+    EXPECT_EQ(Luft(Troposphaerenmodell::voll, meer, 28).laufzeit(-0.01), 0.0);
 }
 
 }  // namespace jorv::suite

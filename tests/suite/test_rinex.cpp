@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <charconv>
+#include <random>
+
 #include "suite/Pruefdaten.h"
 #include "suite/rinex_navigation.h"
 #include "suite/rinex_schreiben.h"
@@ -115,6 +119,31 @@ TEST(Rinex, schaden_kostet_nur_die_eigene_epoche)
     }
 }
 
+// The short ways for numbers of few digits give the library's bits and its characters, ties and signed zeros included.
+TEST(Rinex, zahlen_kommen_unveraendert_hinein_und_heraus)
+{
+    std::mt19937_64 zufall(1);
+    std::array<char, 64> puffer;
+    for (int i = 0; i < 20000; ++i) {
+        const int stellen = i % 8;
+        const double wert = std::ldexp(static_cast<double>(zufall() >> 40), i % 40 - 30) * (i % 3 == 0 ? -1 : 1);
+        std::string text;
+        anhaengen_fest(text, wert, 40, stellen);
+        const auto ende =
+            std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert, std::chars_format::fixed, stellen).ptr;
+        ASSERT_EQ(trimmen(text), std::string_view(puffer.data(), static_cast<std::size_t>(ende - puffer.data())));
+        double soll = 0.0;
+        std::from_chars(puffer.data(), ende, soll);
+        const auto ist = spaltenzahl(trimmen(text));
+        ASSERT_TRUE(ist);
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(*ist), std::bit_cast<std::uint64_t>(soll)) << text;
+    }
+    EXPECT_EQ(spaltenzahl("-.123456789012D-04"), -.123456789012e-04);
+    EXPECT_EQ(spaltenzahl("123456789012345678901234567890"), 123456789012345678901234567890.0);
+    for (const char* falsch : {"", ".", "-", "+", "1D", "1.2.3", "1D+", "--1", "1 2", "1D9999"})
+        EXPECT_FALSE(spaltenzahl(falsch)) << falsch;
+}
+
 TEST(Rinex, neue_spalten_in_den_daten_gelten_ab_dort)
 {
     std::string neu;
@@ -127,6 +156,22 @@ TEST(Rinex, neue_spalten_in_den_daten_gelten_ab_dort)
     EXPECT_EQ(b.messungen[0][Art::C1], 20000000.0);
     EXPECT_EQ(b.messungen[1][Art::C1], 20000001.0);
     EXPECT_EQ(b.messungen[1][Art::L1], 10000001.0);
+}
+
+TEST(Rinex, geschwindigkeit_fuehrt_zum_naechsten_ort)
+{
+    NUR_MIT_DATEN("geonet2005");
+    const Pruefordner p;
+    p.geonet();
+    Navigation n;
+    ASSERT_GT(navigation_lesen(p.text("30400920.05n"), n), 100);
+    for (const Ephemeride& eph : n.saetze)
+        for (const double t : {-7000.0, 0.0, 5000.0}) {
+            const GpsZeit zeit = verschoben(eph.toe, t);
+            const Satellitenlage lage = satellitenlage(eph, zeit);
+            EXPECT_LT(laenge(satellitenlage(eph, verschoben(zeit, 0.002)).ort - lage.nach(0.002)), 3e-6);
+            EXPECT_LT(laenge(satellitenlage(eph, verschoben(zeit, -0.002)).ort - lage.nach(-0.002)), 3e-6);
+        }
 }
 
 TEST(Rinex, navigation_ohne_doppelte_und_mit_bruechen)

@@ -10,8 +10,12 @@
 namespace jorv {
 
 std::span<const Befehl> befehle_verfahren();
+std::span<const Befehl> befehle_import();
 std::span<const Befehl> befehle_dateien();
 std::span<const Befehl> befehle_planung();
+std::span<const Befehl> befehle_einstellen();
+std::span<const Befehl> befehle_rover();
+std::span<const Befehl> befehle_zeiten();
 std::span<const Befehl> befehle_auswertung();
 std::span<const Befehl> befehle_katalog();
 std::span<const Befehl> befehle_hilfe();

@@ -8,6 +8,7 @@
 #include "konsole/Aufruf.h"
 #include "konsole/Befehle.h"
 #include "konsole/Konsolenschirm.h"
+#include "modell/Gemeinsam.h"
 #include "modell/Global.h"
 #include "plattform/text.h"
 
@@ -46,6 +47,10 @@ struct Lage {
     Ausgang rover_unbekannt(std::string_view utf8)
     {
         return stop(verkettet("Den ROVER ", text_aus_utf8_mit_ersatz(utf8), " gibt es im Verfahren nicht!"));
+    }
+    Ausgang nicht_in_diesem_modus()
+    {
+        return stop(verkettet("Im Modus ", Modus_Buchstabe(g.Verfahrensmodus), " gibt es diesen Befehl nicht!"));
     }
     /// Index of a rover by its file name in any case, 0 when the project has none of that name.
     int rover_index(std::string_view utf8) const

@@ -11,11 +11,6 @@ namespace jorv {
 
 namespace {
 
-Ausgang nicht_in_diesem_modus(Lage& lage)
-{
-    return lage.stop(verkettet("Im Modus ", Modus_Buchstabe(lage.g.Verfahrensmodus), " gibt es diesen Befehl nicht!"));
-}
-
 // Index in S_Punkt of the first file of a station, 0 when the project has none.
 int station_index(const Global& g, std::string_view pkz)
 {
@@ -27,7 +22,7 @@ int station_index(const Global& g, std::string_view pkz)
 // As clicks on the map: each corner, then the first one again.
 Ausgang figur(Lage& lage)
 {
-    if (!ist_E_oder_S(lage.g)) return nicht_in_diesem_modus(lage);
+    if (!ist_E_oder_S(lage.g)) return lage.nicht_in_diesem_modus();
     std::vector<int> ecken;
     for (std::size_t i = 1; i < lage.aufruf.worte.size(); ++i) {
         const std::string pkz = text_aus_utf8_mit_ersatz(lage.wort(i));
@@ -49,7 +44,7 @@ Ausgang figur(Lage& lage)
 
 Ausgang figur_loeschen(Lage& lage)
 {
-    if (!ist_E_oder_S(lage.g)) return nicht_in_diesem_modus(lage);
+    if (!ist_E_oder_S(lage.g)) return lage.nicht_in_diesem_modus();
     lage.geaendert = lage.g.GEO_Punkt.anzahl() > 0;
     m_geo_loeschen(lage.g);
     return Ausgang::gut;
@@ -59,7 +54,7 @@ Ausgang zeitfenster(Lage& lage)
 {
     const auto zustand = lage.wort(1);
     if (zustand != "an" && zustand != "aus") return lage.falsch("Das Zeitfenster ist an oder aus.");
-    if (!ist_E_oder_S(lage.g)) return nicht_in_diesem_modus(lage);
+    if (!ist_E_oder_S(lage.g)) return lage.nicht_in_diesem_modus();
     if ((lage.g.Zeitfenster_1h == "1") == (zustand == "an")) return Ausgang::gut;
     lage.geaendert = true;
     m_grund_zeitfenster_1h(lage.g);

@@ -4,6 +4,7 @@
 
 #include "konsole/zeigen.h"
 #include "modell/Gemeinsam.h"
+#include "planung/einstellungen_rover.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
 
@@ -12,16 +13,6 @@ namespace jorv {
 namespace {
 
 constexpr std::array<std::string_view, 4> ampeln = {"unbeurteilt", u8"grün"_w, "gelb", "rot"};
-
-constexpr std::array<std::array<std::string_view, 2>, 7> gruende = {{
-    {"Alles OK.", "Zur Zeit keine Probleme identifiziert."},
-    {"Kein TOREL-Punkt mit passenden Beobachtungszeiten", "zum ROVER zugeordnet."},
-    {"Zu wenig TOREL-Punkte mit passenden Beobachtungszeiten", "zum ROVER zugeordnet."},
-    {"TOREL-Punkt(e) und ROVER haben ein", "unterschiedliches Tagesdatum (DAY)."},
-    {"Tagesdatum und/oder Sessionsnummer der TOREL-Stationen", u8"für diesen ROVER sind nicht einheitlich"_w},
-    {"Weniger als 1h Beobachtungsmaterial der TOREL-Stationen", "vorhanden"},
-    {u8"Daten des ROVER sind länger als das Beobachtungsmaterial"_w, "der TOREL-Stationen"},
-}};
 
 // In the order of the enumeration.
 constexpr std::array<std::string_view, 15> pruefungen = {
@@ -80,10 +71,9 @@ std::string_view ampel_text(std::uint8_t status)
 
 std::string grund_text(std::uint8_t status, std::uint8_t grund)
 {
-    if (status == 1) grund = 0;
-    if (grund >= gruende.size() || (grund == 0 && status != 1))
-        return verkettet("Unspezifizierter Grund.", u8" Für mögliche Ursachen bitte im Handbuch nachlesen."_w);
-    return verkettet(gruende[grund][0], " ", gruende[grund][1]);
+    const std::string zeilen = ampel_bedeutung(status, grund);
+    const auto bruch = zeilen.find('\n');
+    return verkettet(zeilen.substr(0, bruch), " ", trimmen(zeilen.substr(bruch + 1)));
 }
 
 std::string_view pruefung_text(Pruefung pruefung)
@@ -91,7 +81,7 @@ std::string_view pruefung_text(Pruefung pruefung)
     return pruefungen.at(static_cast<std::size_t>(pruefung));
 }
 
-std::string begruendung_text(const Global& g, int i)
+std::string zuordnung_text(const Global& g, int i)
 {
     std::string text = g.OBS_R[i].Dateiname;
     if (i <= g.ROVER_TOREL.anzahl()) {
@@ -99,7 +89,12 @@ std::string begruendung_text(const Global& g, int i)
         text += verkettet(": ", ampel_text(zeile.Status));
         if (zeile.Status != 0) text += verkettet(", ", grund_text(zeile.Status, zeile.Grund));
     }
-    text += "\n";
+    return text + "\n";
+}
+
+std::string begruendung_text(const Global& g, int i)
+{
+    std::string text = zuordnung_text(g, i);
     if (static_cast<std::size_t>(i) > g.Begruendungen.size()) return text;
     const Begruendung& b = g.Begruendungen[static_cast<std::size_t>(i - 1)];
     text += figur_text(g, b);

@@ -319,6 +319,19 @@ std::string verfahrensliste_json(const Global& g)
     return gedruckt({{"Verfahren", reihe(g.Verfahren)}});
 }
 
+std::string zuordnung_json(const Global& g, int i)
+{
+    return gedruckt(i <= g.ROVER_TOREL.anzahl() ? als_json(g.ROVER_TOREL[i]) : Json::object());
+}
+
+std::string einstellungen_json(const Global& g, int i)
+{
+    Json liste = Json::array();
+    for (const auto& satz : g.ROVER_Settings)
+        if (i == 0 || satz.ROVER_Dateiname == g.OBS_R[i].Dateiname) liste.push_back(als_json(satz));
+    return gedruckt({{"ROVER_Settings", liste}});
+}
+
 std::string begruendung_json(const Global& g, int i)
 {
     Json json = {{"ROVER-Dateiname", als_json(g.OBS_R[i].Dateiname)}};

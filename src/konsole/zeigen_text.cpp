@@ -215,6 +215,20 @@ std::string verfahren_text(const Global& g)
     return text;
 }
 
+std::string einstellungen_text(const Global& g, int i)
+{
+    Tabelle t({"ROVER-Datei", "Ein", "Elevation", "DelFirstMinutes", "DelLastMinutes", "Solution", "Satelliten aus"});
+    for (const auto& s : g.ROVER_Settings) {
+        if (i != 0 && s.ROVER_Dateiname != g.OBS_R[i].Dateiname) continue;
+        std::string aus;
+        for (std::size_t k = 1; k <= static_cast<std::size_t>(s.AnzahlDelSatellite); ++k)
+            if (s.DelSatellite[k] != 1) aus += verkettet(aus.empty() ? "" : " ", s.DelSatelliteName[k]);
+        t.zeile({s.ROVER_Dateiname, verkettet(s.Ein_Ausschalterkennung), verkettet(s.Elevation),
+                 verkettet(s.DelFirstMinutes), verkettet(s.DelLastMinutes), verkettet(s.Solution), aus});
+    }
+    return t.text("");
+}
+
 std::string verfahrensliste_text(const Global& g)
 {
     Tabelle t(

@@ -7,41 +7,20 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
-#include "ganz/Programmlauf.h"
+#include "ganz/Beispielplatz.h"
 #include "plattform/wort.h"
 #include "plattform/zahl.h"
-#include "simulator/beispiel.h"
 
 namespace jorv {
 namespace {
 
-using hilfen::Arbeitsplatz;
+using hilfen::Beispielplatz;
 using hilfen::lesen;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using Json = nlohmann::json;
 namespace fs = std::filesystem;
-
-// The example's files, and a project 001 with the catalogue made from its list.
-struct Beispielplatz : Arbeitsplatz {
-    Beispielplatz()
-    {
-        std::string meldung;
-        EXPECT_TRUE(simulator::beispiel_schreiben(host("beispiel"), meldung)) << meldung;
-        gut({"katalog", "machen", "beispiel/katalog.txt"});
-        gut({"grenzen", "machen", "beispiel/grenzen.txt"});
-        EXPECT_EQ(gut({"neu", "Waldweg", "--modus", "E", "--verzeichnis", "verfahren"}).aus, "001\n");
-    }
-    hilfen::Programmlauf gut(const std::vector<std::string>& worte) const
-    {
-        auto lauf = jorv(worte);
-        EXPECT_EQ(lauf.status, 0) << worte[0] << "\n" << lauf.aus << lauf.err;
-        EXPECT_THAT(lauf.err, Not(HasSubstr("STOP"))) << worte[0];
-        return lauf;
-    }
-    std::string projektdatei() const { return lesen(host("verfahren/001.INI")); }
-};
 
 // East, north, up in millimetres of each line that holds them.
 std::map<std::string, std::array<double, 3>> abweichungen(const std::string& tabelle)

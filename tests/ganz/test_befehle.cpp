@@ -1,0 +1,122 @@
+// The commands by which a user overrules, changes, moves and removes, one after the other on one project.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "ganz/Beispielplatz.h"
+
+namespace jorv {
+namespace {
+
+using hilfen::Beispielplatz;
+using hilfen::lesen;
+using ::testing::HasSubstr;
+using Json = nlohmann::json;
+namespace fs = std::filesystem;
+using Worte = std::vector<std::string>;
+
+const std::string rover = "55041670.16o";
+
+struct Fall {
+    Worte worte;
+    int status;
+    const char* meldung;
+};
+
+void ablehnen(const Beispielplatz& platz, const std::vector<Fall>& faelle)
+{
+    const std::string vorher = platz.projektdatei();
+    for (const auto& fall : faelle) {
+        const auto lauf = platz.jorv(fall.worte);
+        EXPECT_EQ(lauf.status, fall.status) << fall.worte[0] << " " << fall.worte.back() << "\n" << lauf.err;
+        EXPECT_THAT(lauf.err, HasSubstr(fall.meldung));
+        EXPECT_EQ(platz.projektdatei(), vorher) << fall.worte[0] << " " << fall.worte.back();
+    }
+}
+
+TEST(Ganz_Befehle, EinstellenZuordnenUndDieBatchdateiZeigtEs)
+{
+    const Beispielplatz platz;
+    platz.gut({"antennen", "1", "beispiel/antennen/antennen.atx"});
+    platz.gut({"rinex", "1", "beispiel/rinex"});
+    ablehnen(platz,
+             {{{"einstellen", "1", rover, "Ein=0", "Elevation=91"}, 1, "Maximal-Wert von 90"},
+              {{"einstellen", "1", rover, "DelLastMinutes=61"}, 1, "Maximal-Wert von 60"},
+              {{"einstellen", "1", "alle", "DelFirstMinutes=5", "Elevation=61"}, 1, "Maximal-Wert von 60"},
+              {{"einstellen", "1", "alle", "Ein=0"}, 2, "Ein"},
+              {{"einstellen", "1", rover, "Elevation=-1"}, 2, "Elevation=-1"},
+              {{"einstellen", "1", rover, "Solution=3"}, 2, "automatisch"},
+              {{"einstellen", "1", rover, "SV:X99=0"}, 1, "X99"},
+              {{"zuordnen", "1", rover, "fehlt.16o"}, 1, "fehlt.16o"},
+              {{"zuordnen", "1", rover, "05901670.16o", "05901670.16O"}, 2, "mehrmals"},
+              {{"zuordnen", "1", rover, "05901670.16o", "05911670.16o", "05931670.16o", "05961670.16o", "05981670.16o"},
+               1,
+               "INFO Es können max. 4"},
+              {{"nicht-fertig", "1", rover}, 1, "nicht berechnet"},
+              {{"wasoft", "1", "alles"}, 2, "beides"},
+              {{"zeiten", "1", "12"}, 1, "keine Beobachtungen"}});
+
+    platz.gut({"einstellen", "1", "alle", "DelLastMinutes=90", "Elevation=7"});
+    const Json satz = Json::parse(
+        platz.gut({"--json", "einstellen", "1", rover, "Elevation=12", "SV:G05=0"}).aus)["ROVER_Settings"][0];
+    EXPECT_EQ(satz["Elevation"], 12);
+    EXPECT_EQ(satz["DelLastMinutes"], 90);
+    platz.gut({"einstellen", "1", rover, "DelLastMinutes=0"});
+    EXPECT_THAT(platz.gut({"zuordnen", "1", rover, "05901670.16o", "05911670.16o"}).aus, HasSubstr("gelb"));
+    EXPECT_THAT(platz.gut({"zuordnen", "1", rover, "05901670.16o", "05911670.16o", "05981670.16o", "--schutz"}).aus,
+                HasSubstr("grün"));
+    // Protected: a figure elsewhere leaves it.
+    platz.gut({"figur", "1", "0591", "0583", "0593"});
+    platz.gut({"batch", "1", rover});
+    const std::string batch = lesen(platz.host("verfahren/001.BAT"));
+    EXPECT_THAT(batch, HasSubstr("0598"));
+    EXPECT_THAT(batch, HasSubstr("12"));
+
+    const Json zeiten = Json::parse(platz.gut({"--json", "zeiten", "1", "167"}).aus);
+    EXPECT_EQ(zeiten["Zeilen"].size(), 14u);
+    EXPECT_NEAR(zeiten["Zeilen"][3]["von"], 340.0 / 419.5, 1e-9);  // minutes from 7:00 to 12:40 and to 13:59:30
+}
+
+TEST(Ganz_Befehle, GanzesVerfahrenRechnenUndEinenRoverZuruecknehmen)
+{
+    const Beispielplatz platz("S");
+    platz.gut({"antennen", "1", "beispiel/antennen/antennen.atx"});
+    Worte dateien = {"rinex", "1", "beispiel/rinex/" + rover};
+    for (const char* station : {"0590", "0591", "0593"})
+        for (const char* art : {"o", "n"}) dateien.push_back(verkettet("beispiel/rinex/", station, "1670.16", art));
+    platz.gut(dateien);
+    platz.gut({"figur", "1", "0590", "0591", "0593"});
+    platz.gut({"wasoft", "1", "beides"});
+    for (const char* datei : {"001.LIS", "001.UTM", "001.KRZ"})
+        EXPECT_TRUE(fs::exists(platz.host("verfahren") / datei)) << datei;
+    platz.gut({"auswerten", "1"});
+    EXPECT_THAT(platz.gut({"ergebnisse", "1"}).aus, HasSubstr("FixedL1"));
+    platz.gut({"nicht-fertig", "1", rover});
+    EXPECT_THAT(platz.gut({"ergebnisse", "1"}).aus, HasSubstr("keine Lösung"));
+    platz.gut({"--nein", "rover-loeschen", "1", rover});
+    EXPECT_TRUE(fs::exists(platz.host("verfahren") / rover));
+    platz.gut({"--ja", "rover-loeschen", "1", rover});
+    platz.gut({"--ja", "antenne-loeschen", "1", "ANTENNEN.ATX"});
+    const Json leer = Json::parse(platz.gut({"--json", "zeigen", "1"}).aus);
+    EXPECT_TRUE(leer["OBS_R"].empty() && leer["Antennen_Dateien"].empty()) << leer["OBS_R"];
+}
+
+TEST(Ganz_Befehle, VerschobenesVerfahrenWirdImportiert)
+{
+    const Beispielplatz platz;
+    platz.gut({"rinex", "1", "beispiel/rinex"});
+    fs::copy(platz.host("verfahren"), platz.host("kopie"));
+    const auto abgelehnt = platz.jorv({"--json", "importieren", "kopie/001.INI"});
+    EXPECT_EQ(abgelehnt.status, 1);
+    EXPECT_THAT(abgelehnt.err, HasSubstr("Name >Waldweg<: bereits vergeben"));
+    EXPECT_EQ(Json::parse(abgelehnt.aus)["Statuswort"], "0111111");
+    ablehnen(platz, {{{"importieren", "kopie/001.INI", "--name", "Zwei", "--nummer", "1"}, 1, "bereits vergeben"},
+                     {{"importieren", "kopie/fehlt.INI"}, 1, "nicht gefunden"}});
+    EXPECT_EQ(platz.gut({"importieren", "kopie/001.INI", "--name", "Zwei"}).aus, "002\n");
+    EXPECT_TRUE(fs::exists(platz.host("kopie/002.INI")));
+    EXPECT_EQ(Json::parse(platz.gut({"--json", "zeigen", "2"}).aus)["OBS_R"].size(), 8u);
+}
+
+}  // namespace
+}  // namespace jorv

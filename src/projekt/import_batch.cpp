@@ -25,15 +25,24 @@ bool hat_endung(std::string_view rest)
     return false;
 }
 
-// The old word with one of the endings directly behind it becomes the new one. A longer name that only ends in the
-// word, such as a rover's, stays.
+// A word begins behind any sign, and directly behind the letters of an option ("+ACF001.ATX"). A longer name that only
+// ends in the word, such as a rover's, doesn't count.
+bool am_wortanfang(std::string_view zeile, std::size_t stelle)
+{
+    const std::string_view davor = zeile.substr(0, stelle);
+    if (davor.empty() || std::isalnum(static_cast<unsigned char>(davor.back())) == 0) return true;
+    const auto leer = davor.find_last_of(' ');
+    const std::string_view option = leer == std::string_view::npos ? davor : davor.substr(leer + 1);
+    return option.starts_with('+') && option.find_first_of("0123456789") == std::string_view::npos;
+}
+
+// The old word with one of the endings directly behind it becomes the new one.
 std::string worte_ersetzen(std::string_view zeile, std::string_view alt, std::string_view neu)
 {
     if (alt.empty()) return std::string(zeile);
     std::string text;
     for (std::size_t i = 0; i < zeile.size();) {
-        const bool am_wortanfang = i == 0 || std::isalnum(static_cast<unsigned char>(zeile[i - 1])) == 0;
-        if (am_wortanfang && beginnt(zeile.substr(i), alt) && hat_endung(zeile.substr(i + alt.size()))) {
+        if (beginnt(zeile.substr(i), alt) && hat_endung(zeile.substr(i + alt.size())) && am_wortanfang(zeile, i)) {
             text += neu;
             i += alt.size();
         } else {

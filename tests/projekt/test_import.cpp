@@ -117,11 +117,13 @@ TEST_F(Import, BatchWirdZeileFuerZeileUmgeschrieben)
                               "D:\\neu", "D:\\exe", "01.12.2016 12:00:00"};
     const std::string alt =
         t1252("REM WaSoft- Auswertung von: Muster (001)\nREM am: 1.2.2003\r\npath %path%;C:\\EXE\r\nC:\r\n") +
-        "cd \\alt\\gr\x81n\r\ncd \\alt\\fremd\r\nif exist 001.UTM del muster.utm\r\nwa2 5001.UTM 001.COO 001.BAT";
+        "cd \\alt\\gr\x81n\r\ncd \\alt\\fremd\r\nif exist 001.UTM del muster.utm\r\nwa2 5001.UTM +ACF001.ATX +C001.COO "
+        "+FL5001.LIS 001.BAT";
     EXPECT_EQ(batch_umschreiben(alt, {u}),
               "REM WaSoft- Auswertung von: Muster (001)\r\nREM importiert als: Neu (017)\r\n"
               "REM am: 1.2.2003\r\nREM importiert am : 01.12.2016 12:00:00\r\npath %path%;D:\\exe\r\nD:\r\ncd \\neu\r\n"
-              "cd \\alt\\fremd\r\nif exist 017.UTM del 017.utm\r\nwa2 5001.UTM 017.COO 001.BAT\r\n");
+              "cd \\alt\\fremd\r\nif exist 017.UTM del 017.utm\r\nwa2 5001.UTM +ACF017.ATX +C017.COO +FL5001.LIS "
+              "001.BAT\r\n");
 }
 
 TEST_F(Import, ErhaeltDatenUnterNeuerNummer)

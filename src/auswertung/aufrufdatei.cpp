@@ -49,6 +49,13 @@ Fehler batchdatei_schreiben(Global& g, std::string_view bytes, std::string_view 
     return Fehler::gesetzt;
 }
 
+bool darf_ueberschreiben(Global& g, std::string_view kopf, const std::string& datei)
+{
+    if (!g.dateien.vorhanden(datei)) return true;
+    const std::string frage = datei_meldung(kopf, datei, u8"ist ist bereits vorhanden!\n\nDie Datei überschreiben?"_w);
+    return g.oberflaeche->frage(Symbol::frage, frage, Antwort::nein) == Antwort::ja;
+}
+
 void apc_melden(Global& g)
 {
     stop_melden(g,

@@ -22,6 +22,9 @@ void aufrufdatei_schreiben(Global& g, Aufruftext text = Aufruftext::der_Batchdat
 /// Writes the project's batch whole. A failure is shown, `erste_zeile` is the first line of its message.
 Fehler batchdatei_schreiben(Global& g, std::string_view bytes, std::string_view erste_zeile);
 
+/// Asks before a file is replaced, "no" being the default; true also when there is none. `kopf` names the kind of file.
+bool darf_ueberschreiben(Global& g, std::string_view kopf, const std::string& datei);
+
 /// The stop for antenna files of the old format.
 void apc_melden(Global& g);
 

@@ -30,4 +30,8 @@ inline constexpr std::array<Batchzeile, 5> block_ende = {{{"REM"}, {"REM ===="},
 inline constexpr std::string_view echo_ohne_virtuelle_station =
     "echo Fehler: Es konnte keine virtuelle Station erzeugt werden! Abbruch der Auswertung!";
 
+/// What the whole-project batches do then; they wait, so that the user sees it.
+inline constexpr std::array<Batchzeile, 4> block_fehler_mit_pause = {
+    {{":fehler1"}, {echo_ohne_virtuelle_station}, {"pause"}, {"goto :ende"}}};
+
 }  // namespace jorv

@@ -44,9 +44,6 @@ constexpr std::array<Batchzeile, 12> rover_zeilen = {
      {"rename virt{DDD}{SES}.rxo  virt{ROVER}"},
      {"rename virt{DDD}{SES}.vrt {ROV-4}.vrt"}}};
 
-constexpr std::array<Batchzeile, 4> fehler_block = {
-    {{":fehler1"}, {echo_ohne_virtuelle_station}, {"pause"}, {"goto :ende"}}};
-
 constexpr std::array<Batchzeile, 11> kopieren = {{{":kopieren"},
                                                   {"REM VRS-RINEX-Dateien"},
                                                   {R"(copy virt*.??o jorv_out\rin_vrs)"},
@@ -87,20 +84,12 @@ std::string gesamt_batch(const Global& g)
     for (int i = 1; i <= g.ROVER_TOREL.anzahl(); ++i) rover(g, batch, i);
     batch.zeile("goto :kopieren");
     batch.zeilen(block_fehlerliste);
-    batch.zeilen(fehler_block);
+    batch.zeilen(block_fehler_mit_pause);
     batch.zeilen(block_kopieren);
     batch.zeilen(kopieren);
     batch.zeilen(block_ende);
     batch.zeile(":ende");
     return batch.text();
-}
-
-bool darf_ueberschreiben(Global& g)
-{
-    if (!g.dateien.vorhanden(batchdatei(g))) return true;
-    const std::string frage =
-        verkettet("Die Batchdatei:\n", batchdatei(g), u8"\nist ist bereits vorhanden!\n\nDie Datei überschreiben?"_w);
-    return g.oberflaeche->frage(Symbol::frage, frage, Antwort::nein) == Antwort::ja;
 }
 
 }  // namespace
@@ -112,7 +101,7 @@ Fehler m_wasoft_erstellen(Global& g)
         return Fehler::gesetzt;
     }
     if (const Fehler fehler = antennendatentest(g); ist_fehler(fehler)) return fehler;
-    if (!darf_ueberschreiben(g)) return Fehler::gesetzt;
+    if (!darf_ueberschreiben(g, "Die Batchdatei:", batchdatei(g))) return Fehler::gesetzt;
     const std::string text = gesamt_batch(g);
     if (const Fehler fehler = batchdatei_schreiben(g, text, "Die angegebene Batchdatei:"); ist_fehler(fehler))
         return fehler;

@@ -1,6 +1,5 @@
 #include "auswertung/rover_batch.h"
 
-#include <algorithm>
 #include <array>
 
 #include "auswertung/aufrufdatei.h"
@@ -122,10 +121,7 @@ std::string wa2_einstellungen(const ROVER_Settings_Satz& einstellung)
     if (einstellung.Solution != 2) optionen += verkettet(" +TL", einstellung.Solution);
     optionen +=
         verkettet(" -e", einstellung.Elevation, " -M", einstellung.DelFirstMinutes, " -N", einstellung.DelLastMinutes);
-    const int anzahl = std::min<int>(einstellung.AnzahlDelSatellite, ROVER_Settings_Satz::max_satelliten);
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(std::max(anzahl, 0)); ++i)
-        if (einstellung.DelSatellite[i] == 0)
-            optionen += verkettet(" -SV", trimmen(rechts(einstellung.DelSatelliteName[i], 3)));
+    for (const auto& satellit : satelliten_optionen(einstellung)) optionen += satellit;
     return optionen + " +L2";
 }
 

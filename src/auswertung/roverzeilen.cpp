@@ -29,6 +29,16 @@ std::string stationsliste(const ROVER_TOREL_Satz& zuordnung)
     return liste;
 }
 
+std::vector<std::string> satelliten_optionen(const ROVER_Settings_Satz& einstellung)
+{
+    std::vector<std::string> optionen;
+    const int anzahl = std::clamp<int>(einstellung.AnzahlDelSatellite, 0, ROVER_Settings_Satz::max_satelliten);
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(anzahl); ++i)
+        if (einstellung.DelSatellite[i] == 0)
+            optionen.push_back(verkettet(" -SV", trimmen(rechts(einstellung.DelSatelliteName[i], 3))));
+    return optionen;
+}
+
 bool fenster_nutzbar(const Global& g, const ROVER_TOREL_Satz& zuordnung)
 {
     if (g.Zeitfenster_1h != "1") return false;

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "auswertung/batchtext.h"
 #include "modell/Global.h"
@@ -15,6 +16,9 @@ void rover_namen(Batchtext& batch, std::string_view rover);
 
 /// The first four characters of the linked station files, joined by commas.
 std::string stationsliste(const ROVER_TOREL_Satz& zuordnung);
+
+/// The options that leave out the satellites which are switched off, in the order of the record.
+std::vector<std::string> satelliten_optionen(const ROVER_Settings_Satz& einstellung);
 
 /// True when the one-hour window is on and every linked station observed through the whole of it (times of day as
 /// HHMMSS).

@@ -20,4 +20,10 @@ void rover_auswerten_vrs(Global& g, const std::string& rover, int& status);
 /// Mode F: the same, but the head is always cut at 101 characters, also where the batch asks for long point names.
 void rover_auswerten_fremd(Global& g, const std::string& rover, int& status);
 
+/// Mode B. Appends the three lists of the line to jorv_out\dat_bas\<Nummer>.BAL (columns 1 to 103, under a head),
+/// jorv_out\export\<Nummer>.MRK (105 to 200) and .TEM (202 to 288), files head and row of this baseline as
+/// <first 8>-<first 8>.BAL and removes the sources. `status` and faults as above; a missing extraction file names the
+/// protocol of the baseline.
+void basis_auswerten(Global& g, const std::string& basislinie, int& status);
+
 }  // namespace jorv

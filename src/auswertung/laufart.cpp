@@ -4,6 +4,9 @@
 
 #include "auswertung/ablage.h"
 #include "auswertung/aufrufdatei.h"
+#include "auswertung/basis_batch.h"
+#include "auswertung/basis_esa.h"
+#include "auswertung/basislinie.h"
 #include "auswertung/ergebnis.h"
 #include "auswertung/gesamtprotokoll.h"
 #include "auswertung/koordinaten_datei.h"
@@ -54,14 +57,34 @@ void rover_zusammenfassen(Global& g)
     kurzprotokoll_aller(g);
 }
 
+bool jedes(const Global&, std::string_view)
+{
+    return true;
+}
+
+// The batch of a baseline files its protocols itself.
+bool nichts_ablegen(Global&, const std::string&)
+{
+    return false;
+}
+
+void basis_zusammenfassen(Global& g)
+{
+    (void)m_basis_esa(g);
+}
+
 constexpr std::string_view keine_rover = "Es sind keine ROVER-Dateien im aktuellen Verfahren vorhanden!";
 constexpr std::string_view kein_rover_zaehlt = "Es kann keine ROVER-Datei ausgewertet werden!";
 
-constexpr std::array<Laufart, 2> laufarten = {
+constexpr std::string_view keine_basislinien = "Es sind keine Basislinien im aktuellen Verfahren definiert!";
+
+constexpr std::array<Laufart, 3> laufarten = {
     {{"12", "R_Datei", keine_rover, kein_rover_zaehlt, "", stationen_vorbereiten, nichts_je_stueck, rover_nach_namen,
       rover_batch_vrs, extraktionsdatei, rover_auswerten_vrs, ausgaben_ablegen, rover_zusammenfassen},
      {"3", "R_Datei", keine_rover, kein_rover_zaehlt, "", nichts, rover_vorbereiten, rover_nach_namen,
-      rover_batch_fremd, extraktionsdatei, rover_auswerten_fremd, ausgaben_ablegen, rover_zusammenfassen}}};
+      rover_batch_fremd, extraktionsdatei, rover_auswerten_fremd, ausgaben_ablegen, rover_zusammenfassen},
+     {"4", "B_Datei", keine_basislinien, keine_basislinien, R"(jorv_out\lis_bas\)", nichts, nichts_je_stueck, jedes,
+      basis_batch_einzeln, extraktionsdatei_basis, basis_auswerten, nichts_ablegen, basis_zusammenfassen}}};
 
 }  // namespace
 
@@ -97,7 +120,7 @@ Fehler batch_vorhanden(Global& g)
 
 void lauf_abschliessen(Global& g, int wahl, int fertig, int bereit)
 {
-    if (!g.dateien.vorhanden(Verfahrens_Datei(g, ".KRZ"))) return;
+    if (ist_B(g) || !g.dateien.vorhanden(Verfahrens_Datei(g, ".KRZ"))) return;
     int float_ = 0, loesungen = fertig;
     kurzprotokoll_erweitern(g, float_, loesungen, wahl, bereit);
     if (float_ <= 0 && loesungen == bereit) return;

@@ -39,8 +39,8 @@ Fehler auswaehlen(Global& g, const Laufart& art, Auswahl& auswahl);
 /// Whether batch and call file are there; a missing one is told.
 Fehler batch_vorhanden(Global& g);
 
-/// Finishes the short report and tells float and missing solutions. `fertig`: batches that have run, what
-/// counts when the report can't be read; `bereit`: rovers that were ready before the run.
+/// Finishes the short report (baselines have none) and tells float and missing solutions. `fertig`: batches that have
+/// run, what counts when the report can't be read; `bereit`: rovers that were ready before the run.
 void lauf_abschliessen(Global& g, int wahl, int fertig, int bereit);
 
 }  // namespace jorv

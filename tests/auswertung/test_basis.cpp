@@ -1,10 +1,14 @@
 // Baselines: their batches to the byte, their run, and the files that follow from it.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <functional>
 
 #include "auswertung/basis_batch.h"
+#include "auswertung/basis_esa.h"
 #include "auswertung/basis_gesamt.h"
+#include "auswertung/ergebnis.h"
+#include "auswertung/lauf.h"
 #include "beispiel.h"
 
 using namespace jorv;
@@ -96,6 +100,137 @@ TEST(BasisBatch, sagt_was_nicht_geschrieben_werden_kann)
     EXPECT_EQ(m_basis_erstellen(b.g), Fehler::gesetzt);  // the question's default is "no"
     EXPECT_EQ(b.schirm.einzige(),
               "Die Batchdatei:\n" + b.pfad8("001.BAT") + "\nist ist bereits vorhanden!\n\nDie Datei überschreiben?");
+}
+
+const std::string kopf_bal =
+    "von  nach           dx          dy          dz     distance      sX     sY     sZ     rXY    rYZ    rZX\r\n";
+const std::string
+    bal =
+        "5501 5502    2022771.2   -468630.2   2610287.4    3335388.7    1.04   0.95   1.28  -0.641  0.380 "
+        "-0.620",
+    mrk = "5501 5502    2022771.2   -468630.2   2610287.4    1.04   0.95   1.28  -0.641  0.380 -0.620 092 a",
+    tem = "5501 5502      3.41  -0.641  0.380 -0.620 100.0 1316/6 a  6.7 FixedL1       59.5    2.3";
+
+const char* const ordner[] = {"jorv_out\\export", "jorv_out\\dat_bas", "jorv_out\\lis_bas", "jorv_out\\prot_bas"};
+
+void ordner_anlegen(Beispiel& b)
+{
+    for (const char* name : ordner) (void)b.g.dateien.ordner_anlegen(im_Verfahren(b.g, name));
+}
+
+TEST(BasisErgebnis, verteilt_die_zeile_auf_ihre_vier_dateien)
+{
+    Basisstand b;
+    ordner_anlegen(b);
+    b.legen("001.BAL", "of a run that broke off\r\n");
+    int status = 0;
+    for (int i = 1; i <= 2; ++i) {
+        b.legen("001.ext", bal + " " + mrk + " " + tem + "\r\n");
+        basis_auswerten(b.g, linie, status);
+    }
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(b.schirm.gezeigt.empty()) << b.schirm.einzige();
+    EXPECT_EQ(b.datei("jorv_out\\export\\001.MRK"), mrk + "\r\n" + mrk + "\r\n");
+    EXPECT_EQ(b.datei("jorv_out\\export\\001.TEM"), tem + "\r\n" + tem + "\r\n");
+    EXPECT_EQ(b.datei("jorv_out\\dat_bas\\001.BAL"), kopf_bal + bal + "\r\n" + bal + "\r\n");
+    EXPECT_EQ(b.datei("jorv_out\\dat_bas\\5501092a-5502092b.BAL"), kopf_bal + bal + "\r\n");
+    EXPECT_FALSE(b.hat("001.BAL"));
+    EXPECT_FALSE(b.hat("001.ext"));
+}
+
+TEST(BasisErgebnis, nur_eine_fehlende_extraktion_beendet_den_lauf)
+{
+    Basisstand b;
+    int status = 0;
+    basis_auswerten(b.g, linie, status);
+    EXPECT_EQ(status, 99);
+    EXPECT_EQ(b.schirm.einzige(), "Die Extraktionsdatei:\n" + b.pfad8("001.ext") +
+                                      "\nkonnte nicht geöffnet werden!\n\nEventuell wurde die WaSoft nicht "
+                                      "ordnungsgemäß durchgeführt.\n\nBitte die Protokolldatei:\n" +
+                                      b.pfad8("jorv_out\\lis_bas\\5501092a-5502092b.lis") +
+                                      " auf ERROR-Meldungen untersuchen!");
+    b.schirm.gezeigt.clear();
+    status = 0;
+    ordner_anlegen(b);
+    b.legen("001.ext", "");
+    basis_auswerten(b.g, linie, status);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(b.schirm.einzige(),
+              "Die Extraktionsdatei:\n" + b.pfad8("001.ext") + "\nkonnte nicht richtig gelesen werden!");
+    EXPECT_FALSE(b.hat("jorv_out\\dat_bas\\001.BAL"));
+    EXPECT_FALSE(b.hat("jorv_out\\export\\001.TEM"));
+}
+
+// The programs of the suite on the search path, which the dates come from.
+struct Suite_im_Pfad {
+    explicit Suite_im_Pfad(Global& g)
+    {
+        g.EXE_Verzeichnis = g.Programmverzeichnis;
+        ::setenv("PATH", (JORV_PROGRAMME ":" + alt).c_str(), 1);
+    }
+    ~Suite_im_Pfad() { ::setenv("PATH", alt.c_str(), 1); }
+    std::string alt = std::getenv("PATH");
+};
+
+TEST(BasisLauf, rechnet_jede_basislinie_und_schreibt_die_folgedateien)
+{
+    Beispiel b({"5501092a.05o", "5502092b.05o", "5503092a.05o"}, "4");
+    const Suite_im_Pfad suite(b.g);
+    (void)b.g.BASISLINIE.anfuegen({"5501", "5501092a.05o", "5502", "5502092b.05o"});
+    (void)b.g.BASISLINIE.anfuegen({"5502", "5502092b.05o", "5503", "5503092a.05o"});
+    baum_aufbauen(b.g);
+    b.legen("jorv_out\\lis_bas\\001.LIS", "alt\r\n");
+    b.legen("001.KRZ", "alt\r\n");
+    int laeufe = 0;
+    Lauf_Umgebung umgebung;
+    umgebung.prozess = [&](const Dateisystem&, std::string_view, const std::function<void()>&) {
+        ordner_anlegen(b);
+        EXPECT_FALSE(b.hat("001.ext"));  // nothing of an earlier run
+        b.legen("001.ext", bal + " " + mrk + " " + tem + "\r\n");
+        const char* stamm[] = {"5501092a-5502092b", "5502092b-5503092a"};
+        b.legen(std::string("jorv_out\\prot_bas\\") + stamm[laeufe++] + ".prt", "x");
+        (void)b.g.dateien.anhaengen(im_Verfahren(b.g, "jorv_out\\lis_bas\\001.LIS"),
+                                    "Scan of RINEX file       5501092a.05o\r\n  actual epochs         120\r\n"
+                                    "Scan of RINEX file       5502092b.05o\r\n  actual epochs         240\r\n");
+        return true;
+    };
+    b.legen("001.ext", "alt");
+    EXPECT_EQ(m_wasoft_run_n(b.g, umgebung), Fehler::keiner);
+    EXPECT_TRUE(b.schirm.gezeigt.empty()) << b.schirm.einzige();
+    EXPECT_EQ(laeufe, 2);
+    EXPECT_EQ(b.g.baum.finden("BB_Datei")->Kinder.size(), 2u);
+    EXPECT_EQ(b.datei("jorv_out\\export\\001.SIG"), "5501 5502 02.04.2005 3.41\r\n5501 5502 02.04.2005 3.41\r\n");
+    EXPECT_EQ(b.datei("jorv_out\\export\\001.AMB"), "5501 5502 02.04.2005100.0\r\n5501 5502 02.04.2005100.0\r\n");
+    EXPECT_EQ(b.datei("jorv_out\\export\\001.EPO"), "5501092a.05o 120\r\n5502092b.05o 240\r\n");
+    EXPECT_EQ(m_wasoft_run_n(b.g, umgebung), Fehler::gesetzt);
+    EXPECT_EQ(b.schirm.einzige(), "Es sind keine Basislinien im aktuellen Verfahren definiert!");
+}
+
+TEST(Esa, laesst_fehlerhafte_zeilen_aus_und_nennt_sie)
+{
+    Basisstand b;
+    EXPECT_EQ(m_basis_esa(b.g), Fehler::gesetzt);
+    b.legen("jorv_out\\export\\001.TEM",
+            "RefS\r\n \r\n5501 5502 1.0 0 0 0 100.0\r\n5501 5502 1.0 0 0 0 100.0 1316/7\r\n");
+    EXPECT_EQ(m_basis_esa(b.g), Fehler::gesetzt);
+    b.legen("jorv_out\\lis_bas\\001.LIS",
+            "  actual epochs         1\r\nScan a\r\nScan 5501092a.05o\r\n  actual epochs         2\r\n");
+    EXPECT_EQ(m_basis_esa(b.g), Fehler::keiner);
+    EXPECT_EQ(m_basis_esa(b.g, 0), Fehler::gesetzt);
+    const std::string datei = b.pfad8("jorv_out\\export\\001.TEM"),
+                      rat = "\n\nDatei überprüfen und ggf. neu versuchen!";
+    const std::string eins = "GPS-Tag fehlt in der Datei:\n" + datei + "\nin Zeile: 3" + rat,
+                      zwei = "GPS-Tag fehlerhaft in der Datei:\n" + datei + "\nin Zeile: 4" + rat;
+    EXPECT_EQ(
+        b.schirm.texte(),
+        (std::vector<std::string>{
+            "Eine Datei:\n" + datei + "\nexistiert noch nicht!", eins, zwei,
+            "Die Datei:\n" + b.pfad8("jorv_out\\lis_bas\\001.LIS") + "\nkonnte nicht geöffnet werden!", eins, zwei,
+            eins, zwei,
+            "Dimensionierungsfehler! (58 in m_basis_esa_click)\n    ReDim l_sta_feld(1)\nevtl. Speicherplatzprobleme"
+            "\n\nOffene Anwendungen schließen und erneut versuchen!"}));
+    EXPECT_EQ(b.datei("jorv_out\\export\\001.SIG"), "");
+    EXPECT_EQ(b.datei("jorv_out\\export\\001.EPO"), "5501092a.05o 2\r\n");
 }
 
 }  // namespace

@@ -144,7 +144,7 @@ TEST(Lauf, was_vor_dem_ersten_rover_scheitert_startet_kein_kind)
          },
          "Die Antennendatei:\n"},
         {[](Laufstand& l) { l.versperren("001.BAT"); }, "Die Batchdatei:\n"},
-        {[](Laufstand& l) { l.g.Verfahrensmodus = "4"; }, "Verfahren dieses Modus können nicht ausgewertet werden!"}};
+        {[](Laufstand& l) { l.g.Verfahrensmodus = "5"; }, "Verfahren dieses Modus können nicht ausgewertet werden!"}};
     for (const auto& fall : tafel) {
         Laufstand l;
         fall.vorher(l);

@@ -1,25 +1,11 @@
 #include "auswertung/aufrufdatei.h"
 
-#include <array>
-
+#include "modell/Batchzeilen.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
 
 namespace jorv {
-
-namespace {
-
-// The umlauts of the third and fifth line are those that a console of code page 850 shows as "ä" and "ß".
-constexpr std::array<std::string_view, 6> wartetext = {
-    "@echo off",
-    "echo !",
-    u8"echo !             Bitte warten! Auswertung der WaSoft l„uft!"_w,
-    "echo !",
-    u8"echo !                  (Fenster schlieát automatisch!)"_w,
-    "echo !"};
-
-}  // namespace
 
 std::string batchdatei(const Global& g)
 {
@@ -33,10 +19,7 @@ std::string aufrufdatei(const Global& g)
 
 void aufrufdatei_schreiben(Global& g, Aufruftext text)
 {
-    std::string bytes;
-    for (const auto zeile : wartetext) bytes += verkettet(zeile, "\r\n");
-    bytes += verkettet(dos_text(verkettet('"', batchdatei(g), '"')), "\r\n");
-    if (!g.dateien.schreiben(aufrufdatei(g), bytes, Dauer::fluechtig)) return;
+    if (!g.dateien.schreiben(aufrufdatei(g), batch_aufruf(batchdatei(g)), Dauer::fluechtig)) return;
     const std::string_view artikel = text == Aufruftext::der_Batchdatei ? "der" : "die";
     stop_melden(g, datei_meldung("Die Aufrufdatei:", aufrufdatei(g),
                                  verkettet(artikel, u8" Batchdatei konnte nicht angelegt/überschrieben werden!"_w)));

@@ -7,6 +7,7 @@
 #include "auswertung/basis_batch.h"
 #include "auswertung/basis_esa.h"
 #include "auswertung/basis_gesamt.h"
+#include "auswertung/basis_lovena.h"
 #include "auswertung/ergebnis.h"
 #include "auswertung/lauf.h"
 #include "beispiel.h"
@@ -231,6 +232,30 @@ TEST(Esa, laesst_fehlerhafte_zeilen_aus_und_nennt_sie)
             "\n\nOffene Anwendungen schließen und erneut versuchen!"}));
     EXPECT_EQ(b.datei("jorv_out\\export\\001.SIG"), "");
     EXPECT_EQ(b.datei("jorv_out\\export\\001.EPO"), "5501092a.05o 2\r\n");
+}
+
+TEST(RV, gibt_jeder_basislinie_zwei_zeilen)
+{
+    Basisstand b;
+    const std::string stern = "5501 5502 1 2 3 ******* 5 6 .1 .2 .3 092 a";
+    b.legen("jorv_out\\export\\001.MRK",
+            mrk + "\r\n" + stern + "\r\n5502 5503 1 2 3\r\n5502 5503 -1500 0 0,5 1 2 3 1 2 3 7\r\n");
+    EXPECT_EQ(m_basis_lovena(b.g), Fehler::keiner);
+    EXPECT_EQ(b.datei("RV001.DAT"),
+              " -99\r\n"
+              "       5501       5502   2022.771200 -468.630200 2610.287400  3\r\n"
+              "   1.040   0.950   1.280-0.6410-0.6200 0.3800 2016  92\r\n"
+              "       5502       5503     -1.500000    0.000000    0.000500  3\r\n"
+              "   1.000   2.000   3.000 1.0000 3.0000 2.0000 2016   7\r\n"
+              " -99\r\n -99\r\n");
+    const std::string datei = "\n" + b.pfad8("jorv_out\\export\\001.MRK") + "\nin Zeile: ",
+                      rat = "\n\nDatei überprüfen und ggf. neu versuchen!",
+                      rv = "Die LOVENA-Datei:\n" + b.pfad8("RV001.DAT");
+    EXPECT_EQ(m_basis_lovena(b.g), Fehler::gesetzt);  // the question's default is "no"
+    EXPECT_EQ(b.schirm.texte(),
+              (std::vector<std::string>{"sX fehlerhaft in der Datei:" + datei + "2" + rat,
+                                        "sX fehlt in der Datei:" + datei + "3" + rat, rv + "\nerfolgreich erstellt!",
+                                        rv + "\nist ist bereits vorhanden!\n\nDie Datei überschreiben?"}));
 }
 
 }  // namespace

@@ -26,19 +26,6 @@ constexpr int ZONE_WEIT = 6;                         // degrees from the central
 constexpr double SEKUNDEN_JE_EPOCHE = 0.05;          // time limit of the solver, far above what it needs
 constexpr int SEKUNDEN_GRUND = 120;
 
-// The text with line ends of LF alone.
-std::string ohne_cr(std::string_view text)
-{
-    std::string ziel;
-    ziel.reserve(text.size());
-    while (!text.empty()) {
-        const auto stelle = std::min(text.find('\r'), text.size());
-        ziel.append(text.substr(0, stelle));
-        text.remove_prefix(std::min(stelle + 1, text.size()));
-    }
-    return ziel;
-}
-
 class Lauf {
 public:
     Lauf(const Wa2Aufruf& aufruf, const Arbeitsordner& ordner, const Loeserumgebung& umgebung, Protokoll& protokoll)
@@ -204,14 +191,14 @@ bool Lauf::antennen_suchen()
 bool Lauf::auftrag_fuellen()
 {
     std::error_code fehler_basis, fehler_rover;
-    m_auftrag.basis_text = ohne_cr(m_ordner.lesen(m_basis.name, fehler_basis).text());
-    m_auftrag.rover_text = ohne_cr(m_ordner.lesen(m_rover.name, fehler_rover).text());
+    m_auftrag.basis_text = m_ordner.lesen(m_basis.name, fehler_basis);
+    m_auftrag.rover_text = m_ordner.lesen(m_rover.name, fehler_rover);
     if (fehler_basis || fehler_rover) return abbruch("Die Beobachtungsdateien sind nicht mehr lesbar!");
     // A virtual station's type names no year while a batch works on it; its navigation file has the rover's.
     const std::string basis = verkettet(stamm(m_basis.name), rechts(m_rover.name, 4));
     const Navigation navigation = navigation_suchen(m_ordner, {m_basis.name, basis, m_rover.name}, false, m_protokoll);
     if (navigation.saetze.empty()) return abbruch("Keine Navigationsdatei gefunden!");
-    m_auftrag.navigation_text = ohne_cr(navigation_text(navigation));
+    m_auftrag.navigation_text = navigation_text(navigation);
     m_auftrag.basis = m_basis.daten.kopf;
     m_auftrag.rover = m_rover.daten.kopf;
     m_auftrag.elevation = m_aufruf.elevation;

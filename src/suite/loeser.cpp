@@ -91,18 +91,6 @@ std::string datumswort(const GpsZeit& zeit, double rand)
     return verkettet(k.jahr, "/", k.monat, "/", k.tag);
 }
 
-std::string ganze_datei(const fs::path& pfad)
-{
-    std::error_code fehler;
-    const auto groesse = fs::file_size(pfad, fehler);
-    if (fehler) return {};
-    std::string text(groesse, '\0');
-    std::ifstream datei(pfad, std::ios::binary);
-    datei.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(std::max<std::streamsize>(0, datei.gcount())));
-    return text;
-}
-
 // The progress lines, which end in CR alone, are no message.
 std::string letzte_meldung(std::string_view fehlerausgabe)
 {
@@ -188,8 +176,8 @@ Loeser::Loeser(const Loeserumgebung& umgebung, const Loeserauftrag& auftrag) : m
         return;
     }
     m_ordner = neuer_ordner(umgebung.zwischenordner);
-    const bool gut = !m_ordner.empty() && ablegen("rover.obs", auftrag.rover_text) &&
-                     ablegen("base.obs", auftrag.basis_text) && ablegen("brdc.nav", auftrag.navigation_text) &&
+    const bool gut = !m_ordner.empty() && ablegen("rover.obs", auftrag.rover_text.text()) &&
+                     ablegen("base.obs", auftrag.basis_text.text()) && ablegen("brdc.nav", auftrag.navigation_text) &&
                      ablegen("antex.atx", antex_fuer_loeser(auftrag.rover_antenne, auftrag.basis_antenne));
     if (!gut) m_hindernis = u8"Der Zwischenordner für das Rechenprogramm konnte nicht angelegt werden!"_w;
 }
@@ -203,7 +191,12 @@ Loeser::~Loeser()
 bool Loeser::ablegen(const char* name, std::string_view text) const
 {
     std::ofstream datei(m_ordner / name, std::ios::binary);
-    datei.write(text.data(), static_cast<std::streamsize>(text.size()));
+    // With line ends of LF alone.
+    while (!text.empty()) {
+        const auto stelle = std::min(text.find('\r'), text.size());
+        datei.write(text.data(), static_cast<std::streamsize>(stelle));
+        text.remove_prefix(std::min(stelle + 1, text.size()));
+    }
     return static_cast<bool>(datei.flush());
 }
 
@@ -237,7 +230,9 @@ Loeserlauf Loeser::rechnen(Laufart art) const
     else if (ende.status != 0)
         lauf.fehler = verkettet("Das Rechenprogramm endete mit Status ", ende.status);
     if (!lauf.fehler.empty()) return lauf;
-    lauf.ausgabe = loeserausgabe_lesen(ganze_datei(m_ordner / "o.pos"), ganze_datei(m_ordner / "o.pos.stat"));
+    // Files that are missing are empty ones here: no solution.
+    const Abbild positionen(m_ordner / "o.pos", fehler), statistik(m_ordner / "o.pos.stat", fehler);
+    lauf.ausgabe = loeserausgabe_lesen(positionen.text(), statistik.text());
     for (Position& p : lauf.ausgabe.positionen) {
         p.sigma = {p.sigma.x / SIGMA_FAKTOR, p.sigma.y / SIGMA_FAKTOR, p.sigma.z / SIGMA_FAKTOR};
         for (double& wert : p.gemischt) wert /= SIGMA_FAKTOR;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "plattform/abbild.h"
 #include "suite/antenne.h"
 #include "suite/loeser_ausgabe.h"
 #include "suite/rinex_beobachtung.h"
@@ -22,8 +23,9 @@ std::string_view laufname(Laufart art);
 
 /// What all runs of one baseline have in common.
 struct Loeserauftrag {
-    std::string rover_text, basis_text, navigation_text;  // the files
-    RinexKopf rover, basis;                               // antenna offsets, base coordinate
+    Abbild rover_text, basis_text;  // the files, with line ends of either kind
+    std::string navigation_text;
+    RinexKopf rover, basis;  // antenna offsets, base coordinate
     std::optional<Antennenblock> rover_antenne, basis_antenne;
     GpsZeit von, bis;
     double takt = 0.0;   // seconds, 0: every epoch

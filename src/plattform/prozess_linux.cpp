@@ -2,6 +2,8 @@
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -84,6 +86,23 @@ bool warten(const Kind& kind, Millisekunden zeit)
     return ::poll(&frage, 1, static_cast<int>(zeit.count())) > 0;
 }
 
+constexpr off_t groesste_ausgabe = 64 << 20;  // a child that writes without end must not fill the memory
+
+off_t ausgabe_laenge(int ausgabe)
+{
+    struct stat zustand {};
+    return ::fstat(ausgabe, &zustand) == 0 ? zustand.st_size : 0;
+}
+
+std::string ausgabe_anfang(int ausgabe)
+{
+    constexpr off_t hoechstens = 1 << 20;
+    std::string text(static_cast<std::size_t>(std::min(ausgabe_laenge(ausgabe), hoechstens)), '\0');
+    const ssize_t n = ::pread(ausgabe, text.data(), text.size(), 0);
+    text.resize(static_cast<std::size_t>(std::max<ssize_t>(n, 0)));
+    return text;
+}
+
 }  // namespace
 
 bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile, const std::function<void()>& atmen)
@@ -105,39 +124,27 @@ Prozessende programm_ausfuehren(const fs::path& programm, const std::vector<std:
                                 const fs::path& ordner, int sekunden)
 {
     Prozessende ende;
-    int rohr[2] = {-1, -1};
-    if (::pipe2(rohr, O_CLOEXEC) != 0) return ende;
-    const Kind kind = starten(programm, argumente, ordner, rohr[1]);
-    ::close(rohr[1]);
-    if (kind.nummer < 0) {
-        ::close(rohr[0]);
-        return ende;
-    }
-    ende.gestartet = true;
-    const auto schluss = std::chrono::steady_clock::now() + std::chrono::seconds(sekunden);
-    bool offen = true, lebt = true;
-    while (offen || lebt) {
-        const auto rest = std::chrono::duration_cast<Millisekunden>(schluss - std::chrono::steady_clock::now());
-        if (rest.count() <= 0) {
-            ende.zeit_abgelaufen = lebt;
-            break;
+    // Memory in place of a pipe: a child that writes hundreds of progress lines wakes nobody, one that leaves it open
+    // holds nobody up.
+    const int ausgabe = ::memfd_create("fehlerausgabe", MFD_CLOEXEC);
+    if (ausgabe < 0) return ende;
+    const Kind kind = starten(programm, argumente, ordner, ausgabe);
+    if (kind.nummer >= 0) {
+        ende.gestartet = true;
+        const auto schluss = std::chrono::steady_clock::now() + std::chrono::seconds(sekunden);
+        const Millisekunden schritt(kind.ende < 0 ? 20 : 1000);
+        for (bool lebt = true; lebt;) {
+            const auto rest = std::chrono::duration_cast<Millisekunden>(schluss - std::chrono::steady_clock::now());
+            ende.zeit_abgelaufen = rest.count() <= 0;
+            if (ende.zeit_abgelaufen) break;
+            lebt = !warten(kind, std::min(rest, schritt));
+            if (ausgabe_laenge(ausgabe) > groesste_ausgabe) (void)!::ftruncate(ausgabe, 0);
         }
-        pollfd fragen[2] = {{offen ? rohr[0] : -1, POLLIN, 0}, {lebt ? kind.ende : -1, POLLIN, 0}};
-        ::poll(fragen, 2, static_cast<int>(std::min<std::int64_t>(rest.count(), kind.ende < 0 ? 20 : 1000)));
-        if (fragen[0].revents != 0) {
-            char puffer[4096];
-            const ssize_t n = ::read(rohr[0], puffer, sizeof puffer);
-            if (n == 0 || (n < 0 && errno != EINTR)) offen = false;
-            if (n > 0 && ende.fehlerausgabe.size() < (1u << 20))
-                ende.fehlerausgabe.append(puffer, static_cast<std::size_t>(n));
-        }
-        if (lebt && warten(kind, Millisekunden(0))) lebt = false;
-        // A grandchild may keep the pipe open: what is there is read, then the wait ends.
-        if (!lebt && offen && fragen[0].revents == 0) offen = false;
+        ::kill(-kind.nummer, SIGKILL);
+        ende.status = einsammeln(kind);
+        ende.fehlerausgabe = ausgabe_anfang(ausgabe);
     }
-    ::kill(-kind.nummer, SIGKILL);
-    ::close(rohr[0]);
-    ende.status = einsammeln(kind);
+    ::close(ausgabe);
     return ende;
 }
 

@@ -1,8 +1,10 @@
 #include "dos/programm.h"
 
+#include <dirent.h>
 #include <unistd.h>
 
 #include <array>
+#include <memory>
 #include <system_error>
 
 #include "dos/zeile.h"
@@ -42,6 +44,18 @@ bool startbar(const fs::path& datei, std::string_view name)
     return fs::is_regular_file(datei, fehler) && ::access(datei.c_str(), ist_batchname(name) ? R_OK : X_OK) == 0;
 }
 
+struct Ordnerschluss {
+    void operator()(DIR* ordner) const { ::closedir(ordner); }
+};
+using Ordner = std::unique_ptr<DIR, Ordnerschluss>;
+
+// A quick no for most names of a long folder, before anything is converted: the first letter differs.
+bool kann_passen(const char* utf8, std::string_view wort)
+{
+    const char erstes = utf8[0];
+    return static_cast<unsigned char>(erstes) >= 0x80 || wort.empty() || klein(erstes) == klein(wort.front());
+}
+
 // One walk through the folder for all names: program folders of a host can be long. Among names that differ in case
 // only the exact one wins, then the first in order.
 std::optional<Programm> in_ordner_finden(const Umfeld& umfeld, std::string_view ordner, std::string_view wort)
@@ -51,12 +65,13 @@ std::optional<Programm> in_ordner_finden(const Umfeld& umfeld, std::string_view 
     const auto namen = namen_von(wort);
     std::size_t bester_rang = namen.size();
     std::string bester;
-    std::error_code fehler;
-    for (fs::directory_iterator lauf(ort, fehler), ende; !fehler && lauf != ende; lauf.increment(fehler)) {
-        const auto name = text_aus_utf8(lauf->path().filename().string());
+    const Ordner offen(::opendir(ort.c_str()));
+    for (const dirent* eintrag = offen ? ::readdir(offen.get()) : nullptr; eintrag; eintrag = ::readdir(offen.get())) {
+        if (!kann_passen(eintrag->d_name, wort)) continue;
+        const auto name = text_aus_utf8(eintrag->d_name);
         if (!name || name->size() > wort.size() + 4) continue;
         for (std::size_t rang = 0; rang < namen.size() && rang <= bester_rang; ++rang) {
-            if (!gleich_ohne_gross(*name, namen[rang]) || !startbar(lauf->path(), *name)) continue;
+            if (!gleich_ohne_gross(*name, namen[rang]) || !startbar(ort / eintrag->d_name, *name)) continue;
             const bool besser = rang < bester_rang || *name == wort || (bester != wort && *name < bester);
             if (besser) bester = *name;
             bester_rang = rang;

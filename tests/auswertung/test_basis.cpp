@@ -97,10 +97,6 @@ TEST(BasisBatch, sagt_was_nicht_geschrieben_werden_kann)
     EXPECT_EQ(basis_batch_einzeln(b.g, linie), Fehler::keiner);
     EXPECT_EQ(b.schirm.einzige(), "Die Aufrufdatei:\n" + b.pfad8("Jorv.BAT") +
                                       "\ndie Batchdatei konnte nicht angelegt/überschrieben werden!");
-    b.schirm.gezeigt.clear();
-    EXPECT_EQ(m_basis_erstellen(b.g), Fehler::gesetzt);  // the question's default is "no"
-    EXPECT_EQ(b.schirm.einzige(),
-              "Die Batchdatei:\n" + b.pfad8("001.BAT") + "\nist ist bereits vorhanden!\n\nDie Datei überschreiben?");
 }
 
 const std::string kopf_bal =
@@ -256,6 +252,26 @@ TEST(RV, gibt_jeder_basislinie_zwei_zeilen)
               (std::vector<std::string>{"sX fehlerhaft in der Datei:" + datei + "2" + rat,
                                         "sX fehlt in der Datei:" + datei + "3" + rat, rv + "\nerfolgreich erstellt!",
                                         rv + "\nist ist bereits vorhanden!\n\nDie Datei überschreiben?"}));
+}
+
+TEST(Basis, sagt_was_noch_nicht_geht)
+{
+    Basisstand b;
+    EXPECT_EQ(m_basis_lovena(b.g), Fehler::gesetzt);
+    b.legen("jorv_out\\export\\001.TEM", "RefS\r\n");
+    b.legen("jorv_out\\lis_bas\\001.LIS", "Scan 5501092a.05o\r\n  actual epochs         2\r\n");
+    {
+        const Bruch bruch(b.g);
+        Bruch::schreiben_bei = 1;  // the other two files are empty
+        EXPECT_EQ(m_basis_esa(b.g), Fehler::gesetzt);
+    }
+    b.g.Verfahrensmodus = "1";
+    EXPECT_EQ(m_basis_erstellen(b.g), Fehler::gesetzt);
+    EXPECT_EQ(b.schirm.texte(),
+              (std::vector<std::string>{
+                  "Eine Datei mit Basislinienergebnissen für das Verfahren existiert noch nicht!",
+                  "In die EPO-Datei:\n" + b.pfad8("jorv_out\\export\\001.EPO") + "\nkonnte nicht geschrieben werden!",
+                  "Eine Batchdatei aller Basislinien gibt es nur im Modus B!"}));
 }
 
 }  // namespace

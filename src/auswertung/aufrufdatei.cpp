@@ -47,4 +47,13 @@ void apc_melden(Global& g)
                 u8"Auswertung nutzen."_w);
 }
 
+Fehler gesamtbatch_ablegen(Global& g, std::string_view bytes)
+{
+    if (const Fehler fehler = batchdatei_schreiben(g, bytes, "Die angegebene Batchdatei:"); ist_fehler(fehler))
+        return fehler;
+    Datum_setzen(g);
+    aufrufdatei_schreiben(g);
+    return Fehler::keiner;
+}
+
 }  // namespace jorv

@@ -28,4 +28,8 @@ bool darf_ueberschreiben(Global& g, std::string_view kopf, const std::string& da
 /// The stop for antenna files of the old format.
 void apc_melden(Global& g);
 
+/// The end of a whole-project command: files the batch, stamps the project, writes the call file. Failure has shown its
+/// message.
+Fehler gesamtbatch_ablegen(Global& g, std::string_view bytes);
+
 }  // namespace jorv

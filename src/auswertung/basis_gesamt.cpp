@@ -66,12 +66,7 @@ Fehler m_basis_erstellen(Global& g)
         return Fehler::gesetzt;
     }
     if (!darf_ueberschreiben(g, "Die Batchdatei:", batchdatei(g))) return Fehler::gesetzt;
-    if (const Fehler fehler = batchdatei_schreiben(g, basislinien_batch(g), "Die angegebene Batchdatei:");
-        ist_fehler(fehler))
-        return fehler;
-    Datum_setzen(g);
-    aufrufdatei_schreiben(g);
-    return Fehler::keiner;
+    return gesamtbatch_ablegen(g, basislinien_batch(g));
 }
 
 }  // namespace jorv

@@ -102,12 +102,7 @@ Fehler m_wasoft_erstellen(Global& g)
     }
     if (const Fehler fehler = antennendatentest(g); ist_fehler(fehler)) return fehler;
     if (!darf_ueberschreiben(g, "Die Batchdatei:", batchdatei(g))) return Fehler::gesetzt;
-    const std::string text = gesamt_batch(g);
-    if (const Fehler fehler = batchdatei_schreiben(g, text, "Die angegebene Batchdatei:"); ist_fehler(fehler))
-        return fehler;
-    Datum_setzen(g);
-    aufrufdatei_schreiben(g);
-    return Fehler::keiner;
+    return gesamtbatch_ablegen(g, gesamt_batch(g));
 }
 
 }  // namespace jorv

@@ -268,7 +268,7 @@ Fehler Antennen_Datei_loeschen(Global& g, const std::string& name)
     const std::string frage = verkettet(
         "Die Antennendatei: ", name, " wird aus dem Verfahren entfernt!\n",
         u8"Sie wird dabei auch im Verzeichnis des Verfahrens physikalisch gelöscht!\n\nDie Funktion jetzt ausführen?"_w);
-    if (g.oberflaeche->frage(Symbol::frage, frage, Antwort::ja) == Antwort::nein) return Fehler::keiner;
+    if (g.oberflaeche->frage(Symbol::frage, frage, Antwort::nein) == Antwort::nein) return Fehler::keiner;
     const auto abbrechen = [&g](std::string_view text) {
         stop_melden(g, text);
         return Fehler::gesetzt;

@@ -1,15 +1,13 @@
 #include <array>
 #include <vector>
 
-#include "auswertung/nicht_fertig.h"
-#include "daten/antennen_datei.h"
+#include "auswertung/baumbefehle.h"
 #include "konsole/Befehle.h"
 #include "konsole/Lage.h"
 #include "konsole/begruendung.h"
 #include "konsole/zeigen.h"
 #include "modell/Gemeinsam.h"
 #include "planung/handarbeit.h"
-#include "projekt/rover_loeschen.h"
 
 namespace jorv {
 
@@ -61,23 +59,19 @@ Ausgang zuordnen(Lage& lage)
     return Ausgang::gut;
 }
 
-bool steht_unter(const Global& g, std::string_view schluessel, std::string_view text)
+Ausgang baum_ausfuehren(Lage& lage, std::string_view befehl, const std::string& name, std::string_view eltern)
 {
-    const Hauptknoten* gruppe = g.baum.finden(schluessel);
-    if (gruppe)
-        for (const auto& knoten : gruppe->Kinder)
-            if (knoten.Text == text) return true;
-    return false;
+    return ist_fehler(baum_befehl(lage.g, befehl, name, eltern).fehler) ? Ausgang::misslungen : Ausgang::gut;
 }
 
 Ausgang nicht_fertig(Lage& lage)
 {
     const int rover = lage.rover_index(lage.wort(1));
     if (rover == 0) return lage.rover_unbekannt(lage.wort(1));
-    const std::string& name = lage.g.OBS_R[rover].Dateiname;
-    if (!steht_unter(lage.g, "E_Datei", name)) return lage.stop(verkettet("Der ROVER ", name, " ist nicht berechnet!"));
-    mnu_tree_nichtfertig(lage.g, name);
-    return Ausgang::gut;
+    const std::string name = lage.g.OBS_R[rover].Dateiname;
+    const std::string eltern = baum_eltern_von(lage.g.baum, {"E_Datei"}, name);
+    if (eltern.empty()) return lage.stop(verkettet("Der ROVER ", name, " ist nicht berechnet!"));
+    return baum_ausfuehren(lage, "mnu_tree_nichtfertig", name, eltern);
 }
 
 Ausgang rover_loeschen(Lage& lage)
@@ -85,17 +79,15 @@ Ausgang rover_loeschen(Lage& lage)
     const int rover = lage.rover_index(lage.wort(1));
     if (rover == 0) return lage.rover_unbekannt(lage.wort(1));
     const std::string name = lage.g.OBS_R[rover].Dateiname;
-    return ist_fehler(ROVER_Datei_loeschen(lage.g, name)) ? Ausgang::misslungen : Ausgang::gut;
+    return baum_ausfuehren(lage, "mnu_tree_loeschen", name, baum_eltern_von(lage.g.baum, {"R_Datei", "E_Datei"}, name));
 }
 
 Ausgang antenne_loeschen(Lage& lage)
 {
     const std::string gesucht = text_aus_utf8_mit_ersatz(lage.wort(1));
     for (const std::string& datei : lage.g.Antennen_Dateien)
-        if (gleich_ohne_gross(datei, gesucht)) {
-            const std::string name = datei;
-            return ist_fehler(Antennen_Datei_loeschen(lage.g, name)) ? Ausgang::misslungen : Ausgang::gut;
-        }
+        if (gleich_ohne_gross(datei, gesucht))
+            return baum_ausfuehren(lage, "mnu_tree_loeschen", datei, baum_eltern_von(lage.g.baum, {"A_Datei"}, datei));
     return lage.stop(verkettet("Die Antennen-Datei ", gesucht, " gibt es im Verfahren nicht!"));
 }
 

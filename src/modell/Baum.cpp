@@ -105,6 +105,14 @@ void rover_bild_setzen(Global& g, std::string_view rover, int bild)
     g.oberflaeche->baum_erneuern();
 }
 
+void knoten_oeffnen(Global& g, std::string_view schluessel, bool offen)
+{
+    Hauptknoten* gruppe = knoten(g.baum, schluessel);
+    if (!gruppe) return;
+    gruppe->offen = offen;
+    g.KNOTEN[static_cast<std::size_t>(gruppe->KNOTEN)] = offen ? '1' : '0';
+}
+
 void baum_aufbauen(Global& g)
 {
     g.baum.Knoten.clear();

@@ -18,4 +18,7 @@ int rover_bild(const Global& g, int i);
 /// computed rover keeps its image.
 void rover_bild_setzen(Global& g, std::string_view rover, int bild);
 
+/// A top node has been expanded or collapsed: kept in KNOTEN for the next save. An unknown key does nothing.
+void knoten_oeffnen(Global& g, std::string_view schluessel, bool offen);
+
 }  // namespace jorv

@@ -118,6 +118,11 @@ Urteil urteil(Zeilenfarbe farbe)
 
 }  // namespace
 
+void handarbeit_hinweis_ok(Global& g, bool weiter_zeigen)
+{
+    g.Hinweis = weiter_zeigen ? '1' : '0';
+}
+
 Fehler handarbeit_oeffnen(Global& g, std::string_view rover, Handarbeit& h)
 {
     const int i = Index_OBS_R(g, rover);

@@ -40,6 +40,13 @@ struct Handausschnitt {
     double Rechtswert_min = 0, Rechtswert_max = 0, Hochwert_min = 0, Hochwert_max = 0;
 };
 
+/// What frmhinweis shows in front of the dialog, two paragraphs, and what its OK stores.
+inline constexpr std::string_view handarbeit_hinweis =
+    "Die Zuordnung der TOREL-Dateien zu den ROVER-Punkten kann auch automatisch erfolgen, wenn sinnvolle Drei- "
+    "und/oder Vierecke per Mausklick auf die Punktsignaturen der TOREL-Punkte in der Grafik gebildet werden.\n"
+    "Weitere Hinweise zu dieser Automatik finden Sie im Handbuch!";
+void handarbeit_hinweis_ok(Global& g, bool weiter_zeigen);
+
 /// Station files whose epochs truly overlap the rover's, with the present assignment marked. An unknown rover or an
 /// array that can't grow fails; in the second case the message has been shown and there are no rows.
 Fehler handarbeit_oeffnen(Global& g, std::string_view rover, Handarbeit& h);

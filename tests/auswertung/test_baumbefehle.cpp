@@ -112,6 +112,13 @@ TEST(Baumbefehle, KlickUndDialogeFolgenModusUndKnoten)
     EXPECT_EQ(e.schirm.einzige(), utf8_aus_1252(verkettet("Es existiert noch keine Datei: ", e.g.Arbeitsverzeichnis,
                                                           "\\jorv_out\\dat_rov\\5501092a.05o.UTM")));
 
+    e.schirm.gezeigt.clear();
+    e.g.EXE_Verzeichnis = e.g.Arbeitsverzeichnis;
+    EXPECT_FALSE(handbuch(e.g));
+    EXPECT_EQ(e.schirm.einzige(), "Benutzerhandbuch wurde nicht gefunden!");
+    hilfen::schreiben(e.pfad("JorvPlus-Handbuch.pdf"), "x");
+    EXPECT_EQ(handbuch(e.g), e.g.Arbeitsverzeichnis + "\\JorvPlus-Handbuch.pdf");
+
     Pruefstand b("4");
     ASSERT_TRUE(b.g.BASISLINIE.anfuegen({"5502", "5502092a.05o", "5501", "5501092a.05o"}));
     for (const char* rover : {"5501092a.05o", "5502092a.05o"}) hilfen::rover_anfuegen(b.g, rover);

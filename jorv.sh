@@ -7,12 +7,13 @@ bau=$wurzel/bau/release
 programme=$bau/programme
 beispiel=${JORV_BEISPIEL:-$wurzel/bau/beispiel}
 pakete=(g++ cmake ninja-build ccache libgeographiclib-dev libgtest-dev libgmock-dev libbenchmark-dev
-    nlohmann-json3-dev rtklib)
+    nlohmann-json3-dev rtklib qt6-base-dev qt6-translations-l10n)
 kerne=$(nproc)
 
 hilfe() {
     cat <<TEXT
 ./jorv.sh beispiel        richtet ein, baut, erzeugt ein Beispielnetz, wertet es aus und vergleicht mit der Wahrheit
+./jorv.sh start           richtet ein, baut und öffnet das Fenster
 ./jorv.sh test [--lang]   richtet ein, baut und prüft alles; --lang nimmt die langen Prüfungen dazu
 ./jorv.sh pfad            nennt den Ordner der gebauten Programme
 TEXT
@@ -117,10 +118,20 @@ vorfuehren() {
     beispiel_rechnen
 }
 
+fenster_oeffnen() {
+    einrichten
+    bauen jorvplus jorv jorv-dos WATIME wav2 wa2 wasoft waprt
+    "$programme/jorvplus"
+}
+
 case ${1:-hilfe} in
 beispiel)
     [[ $# -eq 1 ]] || { hilfe >&2; exit 2; }
     vorfuehren
+    ;;
+start)
+    [[ $# -eq 1 ]] || { hilfe >&2; exit 2; }
+    fenster_oeffnen
     ;;
 test)
     [[ $# -eq 1 || ($# -eq 2 && $2 == --lang) ]] || { hilfe >&2; exit 2; }

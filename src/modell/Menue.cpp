@@ -4,6 +4,7 @@
 #include <array>
 
 #include "modell/Gemeinsam.h"
+#include "plattform/pfad.h"
 #include "plattform/text.h"
 
 namespace jorv {
@@ -121,52 +122,75 @@ bool haken_pkz(const Global& g)
 }
 
 struct Eintrag {
-    std::string_view name, text;
+    std::string name, text;
     Regel an = immer, sichtbar = immer, haken = kein_haken;
+    std::string_view eltern = {};
 };
 struct Gruppe {
     std::string_view text;
     std::vector<Eintrag> eintraege;
 };
 
+std::string text(std::string_view beschriftung)
+{
+    return std::string(beschriftung);
+}
+
+// With a directory the bare name stands behind a colon.
+std::string editor_text(const Global& g)
+{
+    const bool mit_ordner = g.Editor.find_last_of("\\/:") != std::string::npos;
+    return mit_ordner ? verkettet("Editor: \"", pfad_name(g.Editor), "\"") : verkettet("Editor \"", g.Editor, "\"");
+}
+
+// One entry for the whole project and one a day.
+void tage_anhaengen(const Global& g, std::vector<Eintrag>& eintraege)
+{
+    for (int i = 1; i <= g.tage.anzahl(); ++i)
+        eintraege.push_back(
+            {verkettet("m_grafik_zeiten(", i, ")"), verkettet(u8"Zeiten-Übersicht für Tag: "_w, g.tage[i])});
+}
+
 std::vector<Gruppe> menueleiste(const Global& g)
 {
     return {{"&Datei",
              {{"m_datei_neu", "&Neues Verfahren..."},
-              {"m_datei_laden", u8"Verfahren &öffnen..."_w},
+              {"m_datei_laden", text(u8"Verfahren &öffnen..."_w)},
               {"m_datei_sichern", "Verfahren &sichern", sichern},
-              {"m_datei_loeschen", u8"Verfahren &löschen..."_w, loeschen},
+              {"m_datei_loeschen", text(u8"Verfahren &löschen..."_w), loeschen},
               {"m_datei_importieren", "Verfahren &importieren..."},
-              {"m_datei_rinex", u8"&RINEX-Dateien einfügen..."_w, offen},
-              {"m_datei_antenne", u8"&Antennen-Dateien einfügen..."_w, offen},
+              {"m_datei_rinex", text(u8"&RINEX-Dateien einfügen..."_w), offen},
+              {"m_datei_antenne", text(u8"&Antennen-Dateien einfügen..."_w), offen},
               {"m_datei_basis", "&Basislinien", nur_modus_b, nur_modus_b},
-              {"m_datei_basis_liste", "aus &Liste...", nur_modus_b, nur_modus_b},
-              {"m_datei_basis_dialog", "im &Dialog...", nur_modus_b, nur_modus_b}}},
+              {"m_datei_basis_liste", "aus &Liste...", nur_modus_b, nur_modus_b, kein_haken, "m_datei_basis"},
+              {"m_datei_basis_dialog", "im &Dialog...", nur_modus_b, nur_modus_b, kein_haken, "m_datei_basis"},
+              {"m_datei_ende", "&Beenden"}}},
             {"&Grundeinstellungen",
              {{"m_grund_zeitfenster_1h", "&Auswerte-Zeitfenster von 1[h]", zeitfenster, immer, haken_zeitfenster},
-              {"m_grund_EinstellungenAlle", u8"&Einstellungen für alle ROVER..."_w, einstellungen_alle}}},
+              {"m_grund_EinstellungenAlle", text(u8"&Einstellungen für alle ROVER..."_w), einstellungen_alle},
+              {"m_grund_editor", editor_text(g)}}},
             {"G&rafik",
-             {{"m_grafik_orginal", u8"&Orginalgröße"_w},
-              {"m_grafik_verkleinern", u8"&Verkleinerung um ½"_w},
+             {{"m_grafik_orginal", text(u8"&Orginalgröße"_w)},
+              {"m_grafik_verkleinern", text(u8"&Verkleinerung um ½"_w)},
               {"m_grafik_grenzen", "&Grenzen einblenden", immer, immer, haken_grenzen},
               {"m_grafik_ablage", "in &Zwischenablage kopieren"},
               {"m_grafik_pkz", "&PKZ einblenden", immer, immer, haken_pkz},
-              {"m_grafik_zeiten", u8"&Zeiten-Übersicht: Gesamtverfahren "_w, zeiten}}},
+              {"m_grafik_zeiten", text(u8"&Zeiten-Übersicht: Gesamtverfahren "_w), zeiten}}},
             {"Geo&metrie",
              {{"m_geo", "Geo&metrie", figuren},
-              {"m_geo_definieren", "Dreiecke/Vierecke &definieren", figuren},
-              {"m_geo_loeschen", u8"letzte Definition &löschen"_w, figuren}}},
+              {"m_geo_definieren", "Dreiecke/Vierecke &definieren", figuren, immer, kein_haken, "m_geo"},
+              {"m_geo_loeschen", text(u8"letzte Definition &löschen"_w), figuren, immer, kein_haken, "m_geo"}}},
             {"&Programme",
-             {{"m_wasoft_run_n", u8"&WaSoft ausführen"_w, auswerten},
+             {{"m_wasoft_run_n", text(u8"&WaSoft ausführen"_w), auswerten},
               {"m_wasoft_erstellen", "nur WaSoft-&Batchdatei erstellen", offen, gesamtbatch},
-              {"m_wasoft_batch", u8"nur WaSoft-&Batchdatei ausführen"_w, offen, gesamtbatch},
-              {"m_wasoft_run", u8"&WaSoft ausführen"_w, offen, gesamtbatch},
+              {"m_wasoft_batch", text(u8"nur WaSoft-&Batchdatei ausführen"_w), offen, gesamtbatch},
+              {"m_wasoft_run", text(u8"&WaSoft ausführen"_w), offen, gesamtbatch},
               {"m_basis_erstellen", "nur Basislinien-&Batchdatei erstellen", nur_modus_b, nur_modus_b},
-              {"m_basis_batch", u8"nur &Basislinien-Batchdatei ausführen"_w, nur_modus_b, nur_modus_b},
-              {"m_basis_run", u8"Basislinien &berechnen"_w, nur_modus_b, nur_modus_b},
+              {"m_basis_batch", text(u8"nur &Basislinien-Batchdatei ausführen"_w), nur_modus_b, nur_modus_b},
+              {"m_basis_run", text(u8"Basislinien &berechnen"_w), nur_modus_b, nur_modus_b},
               {"m_basis_esa", "&ESA-Auswertung", nur_modus_b, nur_modus_b},
               {"m_basis_i95", "&I95-Auswertung", nur_modus_b, nur_modus_b},
-              {"m_basis_lovena", u8"&RV-Datei für LOVENA erstellen"_w, nur_modus_b, nur_modus_b},
+              {"m_basis_lovena", text(u8"&RV-Datei für LOVENA erstellen"_w), nur_modus_b, nur_modus_b},
               {"m_wasoft_runa", "&Koordinatenmittelung", mitteln},
               {"m_wasoft_holbek", "&Graphik", zeichnen}}},
             {"Pro&tokolle",
@@ -176,7 +200,7 @@ std::vector<Gruppe> menueleiste(const Global& g)
               {"m_protkoll_kurz_aller", "K&urzprotokoll aller ROVER", kurzprotokoll_alle},
               {"m_protkoll_fehler", "&Fehlerprotokoll der letzten Berechnung", fehlerprotokoll},
               {"m_protkoll_editieren", "beliebige &Dateien editieren"}}},
-            {"&Hilfe", {{"m_hilfe_handbuch", "Benutzer&handbuch"}}}};
+            {"&Hilfe", {{"m_hilfe_handbuch", "Benutzer&handbuch"}, {"m_hilfe_neuerungen", "&Neuerungen..."}}}};
 }
 
 }  // namespace
@@ -184,10 +208,13 @@ std::vector<Gruppe> menueleiste(const Global& g)
 std::vector<Menueeintrag> menue_setzen(const Global& g)
 {
     std::vector<Menueeintrag> menue;
-    for (const auto& gruppe : menueleiste(g))
+    for (auto& gruppe : menueleiste(g)) {
+        if (!gruppe.eintraege.empty() && gruppe.eintraege.back().name == "m_grafik_zeiten")
+            tage_anhaengen(g, gruppe.eintraege);
         for (const auto& e : gruppe.eintraege)
-            menue.push_back({std::string(e.name), std::string(gruppe.text), std::string(e.text), e.an(g), e.sichtbar(g),
-                             e.haken(g)});
+            menue.push_back(
+                {e.name, std::string(gruppe.text), e.text, std::string(e.eltern), e.an(g), e.sichtbar(g), e.haken(g)});
+    }
     return menue;
 }
 

@@ -28,11 +28,11 @@ std::string kontext(const Global& g, const std::string& knoten, const std::strin
     return text;
 }
 
-constexpr std::string_view immer_vorn = "datei_neu datei_laden ",
+constexpr std::string_view immer_vorn = "datei_neu datei_laden ", ende = "datei_ende ", editor = "grund_editor ",
                            grafik =
                                "grafik_orginal grafik_verkleinern grafik_grenzen "
                                "grafik_ablage grafik_pkz ",
-                           immer_hinten = "protkoll_editieren hilfe_handbuch ";
+                           immer_hinten = "protkoll_editieren hilfe_handbuch hilfe_neuerungen ";
 
 void rover(Pruefstand& p)
 {
@@ -54,15 +54,16 @@ TEST(Menue, FolgtVerfahrenModusUndDateien)
     Pruefstand ohne;
     ohne.g.Verfahrensname.clear();
     ohne.g.Verfahrensmodus.clear();
-    EXPECT_EQ(angeschaltet(ohne.g),
-              std::string(immer_vorn) + "datei_importieren " + std::string(grafik) + std::string(immer_hinten));
+    EXPECT_EQ(angeschaltet(ohne.g), std::string(immer_vorn) + "datei_importieren " + std::string(ende) +
+                                        std::string(editor) + std::string(grafik) + std::string(immer_hinten));
 
     Pruefstand e;
     e.g.menue = {true, true, true, true};
     rover(e);
-    const std::string offen =
-        std::string(immer_vorn) + "datei_sichern datei_loeschen datei_importieren datei_rinex datei_antenne " +
-        "grund_zeitfenster_1h grund_EinstellungenAlle " + std::string(grafik) + "geo geo_definieren geo_loeschen ";
+    const std::string offen = std::string(immer_vorn) +
+                              "datei_sichern datei_loeschen datei_importieren datei_rinex datei_antenne " +
+                              std::string(ende) + "grund_zeitfenster_1h grund_EinstellungenAlle " +
+                              std::string(editor) + std::string(grafik) + "geo geo_definieren geo_loeschen ";
     EXPECT_EQ(angeschaltet(e.g), offen + std::string(immer_hinten));
     EXPECT_TRUE(e.g.Antennen_Dateien.anfuegen("a.atx"));
     hilfen::schreiben(e.pfad("001.KRZ"), "x");
@@ -81,13 +82,20 @@ TEST(Menue, FolgtVerfahrenModusUndDateien)
 
     Pruefstand b("4");
     b.g.menue = {true, true, true, true};
-    EXPECT_EQ(angeschaltet(b.g),
-              std::string(immer_vorn) + "datei_sichern datei_loeschen datei_importieren datei_rinex datei_antenne " +
-                  "datei_basis datei_basis_liste datei_basis_dialog grund_EinstellungenAlle " + std::string(grafik) +
-                  "basis_erstellen basis_batch basis_run basis_esa basis_i95 basis_lovena " +
-                  std::string(immer_hinten));
+    EXPECT_EQ(angeschaltet(b.g), std::string(immer_vorn) +
+                                     "datei_sichern datei_loeschen datei_importieren datei_rinex datei_antenne " +
+                                     "datei_basis datei_basis_liste datei_basis_dialog " + std::string(ende) +
+                                     "grund_EinstellungenAlle " + std::string(editor) + std::string(grafik) +
+                                     "basis_erstellen basis_batch basis_run basis_esa basis_i95 basis_lovena " +
+                                     std::string(immer_hinten));
     EXPECT_EQ(menueeintrag(menue_setzen(b.g), "m_protkoll_einsehen")->Text, "&Berechnungs-Protokoll aller Basislinien");
     EXPECT_FALSE(menueeintrag(menue_setzen(b.g), "m_gibt_es_nicht"));
+    EXPECT_EQ(menueeintrag(menue_setzen(b.g), "m_grund_editor")->Text, "Editor \"Notepad.exe\"");
+    b.g.Editor = "Z:\\opt\\lesen.exe";
+    EXPECT_EQ(menueeintrag(menue_setzen(b.g), "m_grund_editor")->Text, "Editor: \"lesen.exe\"");
+    EXPECT_TRUE(b.g.tage.anfuegen(92));
+    EXPECT_EQ(menueeintrag(menue_setzen(b.g), "m_grafik_zeiten(1)")->Text,
+              std::string(u8"Zeiten-Übersicht für Tag: 92"_w));
 }
 
 TEST(Kontextmenue, FolgtDerGruppeUndDenErgebnissen)

@@ -1,0 +1,82 @@
+#include "ui/Menuebefehle.h"
+
+#include <algorithm>
+#include <array>
+
+#include "auswertung/lauf.h"
+#include "auswertung/protokolle.h"
+#include "daten/einfuegen.h"
+#include "planung/figuren.h"
+#include "planung/zeitfenster.h"
+#include "plattform/zahl.h"
+#include "projekt/verfahren.h"
+#include "projekt/verfahren_loeschen.h"
+#include "ui/frmHauptform.h"
+
+namespace jorv {
+
+namespace {
+
+// A routine of the core that needs nothing but the state. What it returns it has shown.
+template <auto routine>
+void kern(frmHauptform& form)
+{
+    static_cast<void>(routine(form.g()));
+}
+
+struct Befehl {
+    std::string_view name;
+    void (*ausfuehren)(frmHauptform&);
+};
+constexpr std::array befehle = {
+    Befehl{"m_datei_neu", kern<m_datei_neu>},
+    Befehl{"m_datei_sichern", kern<m_datei_sichern>},
+    Befehl{"m_datei_loeschen", kern<m_datei_loeschen>},
+    Befehl{"m_datei_rinex", kern<m_datei_rinex>},
+    Befehl{"m_datei_antenne", kern<m_datei_antenne>},
+    Befehl{"m_datei_ende", [](frmHauptform& form) { form.close(); }},
+    Befehl{"m_grund_zeitfenster_1h", kern<m_grund_zeitfenster_1h>},
+    Befehl{"m_geo_loeschen", kern<m_geo_loeschen>},
+    Befehl{"m_wasoft_run_n", [](frmHauptform& form) { static_cast<void>(m_wasoft_run_n(form.g())); }},
+};
+
+constexpr std::array protokollbefehle = {std::string_view("m_protkoll_einsehen"), std::string_view("m_protkoll_kurz"),
+                                         std::string_view("m_protkoll_kurz_aller"),
+                                         std::string_view("m_protkoll_fehler")};
+
+// The number in brackets behind the name of an entry that stands there several times; 0 without one.
+int nummer(std::string_view name, std::string_view stamm)
+{
+    if (!name.starts_with(stamm) || !name.ends_with(')')) return 0;
+    name.remove_prefix(stamm.size());
+    name.remove_suffix(1);
+    return name.starts_with('(') ? ganz_streng(name.substr(1)).value_or(0) : 0;
+}
+
+}  // namespace
+
+bool menuebefehl_ausfuehren(frmHauptform& form, std::string_view name)
+{
+    for (const auto& befehl : befehle)
+        if (befehl.name == name) {
+            befehl.ausfuehren(form);
+            return true;
+        }
+    for (const auto befehl : protokollbefehle)
+        if (befehl == name) return static_cast<void>(protokoll_oeffnen(form.g(), name)), true;
+    if (const int n = nummer(name, "m_dateien_verfahren")) {
+        static_cast<void>(m_dateien_verfahren(form.g(), n));
+        return true;
+    }
+    return false;
+}
+
+bool menuebefehl_vorhanden(std::string_view name)
+{
+    const auto gleich = [=](const auto& befehl) { return befehl.name == name; };
+    return std::any_of(befehle.begin(), befehle.end(), gleich) ||
+           std::find(protokollbefehle.begin(), protokollbefehle.end(), name) != protokollbefehle.end() ||
+           nummer(name, "m_dateien_verfahren") != 0;
+}
+
+}  // namespace jorv

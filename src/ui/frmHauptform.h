@@ -1,0 +1,68 @@
+// The main window: menu bar, toolbar, tree on the left, map on the right, status bar. It binds what the program's
+// routines do to what the user does; it decides nothing of its own.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+#include "modell/Global.h"
+#include "ui/Menueleiste.h"
+
+class QLabel;
+class QSplitter;
+class QToolBar;
+
+namespace jorv {
+
+class Baumansicht;
+class Fensterschirm;
+class Fortschrittsfeld;
+
+class frmHauptform final : public QMainWindow {
+public:
+    /// Both outlive the window. The window becomes the screen's main window.
+    frmHauptform(Global& g, Fensterschirm& schirm);
+    ~frmHauptform() override;
+
+    /// What the first showing does, once: geometry, tree, catalogue, news, map, menus. Called behind show().
+    void erste_aktivierung();
+
+    Global& g() { return m_g; }
+    Fortschrittsfeld& fortschritt() { return *m_fortschritt; }
+    /// The action of a menu entry; nullptr when there is none of that name.
+    QAction* eintrag(const QString& name) const { return m_menue.eintrag(name); }
+
+    // The screen's wishes.
+    void baum_erneuern();
+    void karte_zeichnen(bool neu);
+    void menue_erneuern();
+    void titel_setzen(const QString& titel);
+
+protected:
+    void closeEvent(QCloseEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
+    void moveEvent(QMoveEvent* ereignis) override;
+
+private:
+    void leiste_anlegen();
+    void leiste_fuellen();
+    void baum_verbinden();
+    void befehl(const std::string& name);
+    void lage_wiederherstellen();
+    void lage_merken();
+    void statuszeile_erneuern();
+
+    Global& m_g;
+    Fensterschirm& m_schirm;
+    Menueleiste m_menue;
+    Fortschrittsfeld* m_fortschritt;
+    Baumansicht* tre_punkte;
+    QWidget* pic_grafik;
+    QSplitter* m_teiler;
+    QToolBar* m_leiste;
+    QLabel *m_verfahren, *m_zaehler, *m_zeiger;
+    bool m_aktiviert = false, m_befehl_laeuft = false;
+};
+
+}  // namespace jorv

@@ -223,7 +223,7 @@ struct Eintrag {
     Json (*wert)(const Global&);
 };
 
-// Every array and singleton by its name. Slot 8 of `KNOTEN` is not in use.
+// Every array and singleton by its name. Element 0 of `KNOTEN` is not in use.
 constexpr Eintrag eintraege[] = {
     {"Verfahrensname", Teil::kopf, [](const Global& g) { return als_json(g.Verfahrensname); }},
     {"Verfahrensnummer", Teil::kopf, [](const Global& g) { return als_json(g.Verfahrensnummer); }},
@@ -239,6 +239,9 @@ constexpr Eintrag eintraege[] = {
     {"X_min", Teil::kopf, [](const Global& g) { return Json(g.X_min); }},
     {"X_max", Teil::kopf, [](const Global& g) { return Json(g.X_max); }},
     {"Faktor", Teil::kopf, [](const Global& g) { return Json(g.Faktor); }},
+    {"Grafik_Fenster_gelesen", Teil::kopf, [](const Global& g) { return Json(g.Grafik_Fenster_gelesen); }},
+    {"vollstaendig_gelesen", Teil::kopf, [](const Global& g) { return Json(g.vollstaendig_gelesen); }},
+    {"ungelesene_Sektionen", Teil::kopf, [](const Global& g) { return reihe(g.ungelesene_Sektionen); }},
     {"geo_fertig", Teil::kopf, [](const Global& g) { return flagge(g.geo_fertig); }},
     {"emds_ausgabe", Teil::kopf, [](const Global& g) { return flagge(g.emds_ausgabe); }},
     {"berechnete_ROVER", Teil::kopf, [](const Global& g) { return Json(g.berechnete_ROVER); }},
@@ -255,12 +258,14 @@ constexpr Eintrag eintraege[] = {
     {"OBS_V", Teil::stationen, [](const Global& g) { return reihe(g.OBS_V); }},
     {"V_Punkt", Teil::stationen, [](const Global& g) { return reihe(g.V_Punkt); }},
     {"RINEX_Dateien", Teil::stationen, [](const Global& g) { return reihe(g.RINEX_Dateien); }},
+    {"dateien_liste", Teil::stationen, [](const Global& g) { return reihe(g.dateien_liste); }},
     {"Antennen_Dateien", Teil::antennen, [](const Global& g) { return reihe(g.Antennen_Dateien); }},
+    {"antennenliste", Teil::antennen, [](const Global& g) { return reihe(g.antennenliste); }},
     {"KOR_ANTENNEN", Teil::antennen, [](const Global& g) { return reihe(g.KOR_ANTENNEN); }},
     {"Typkalibrierung", Teil::antennen, [](const Global& g) { return als_json(g.Typkalibrierung); }},
     {"GEO_Punkt", Teil::figuren, [](const Global& g) { return reihe(g.GEO_Punkt); }},
     {"BASISLINIE", Teil::basislinien, [](const Global& g) { return reihe(g.BASISLINIE); }},
-    {"KNOTEN", Teil::baum, [](const Global& g) { return reihe(std::vector(g.KNOTEN.begin(), g.KNOTEN.end() - 1)); }},
+    {"KNOTEN", Teil::baum, [](const Global& g) { return reihe(std::vector(g.KNOTEN.begin() + 1, g.KNOTEN.end())); }},
     {"Baum", Teil::baum, [](const Global& g) { return reihe(g.baum.Knoten); }},
     {"Menue", Teil::menue, menue},
     {"TOREL_Punkt", Teil::katalog, [](const Global& g) { return reihe(g.TOREL_Punkt); }},
@@ -276,6 +281,8 @@ Json programm_json(const Global& g)
             {"Liste_Name", reihe(g.Liste_Name)},
             {"Liste_Pfad", reihe(g.Liste_Pfad)},
             {"Liste_Modus", reihe(g.Liste_Modus)},
+            {"abbruch", g.abbruch},
+            {"Programmverzeichnis", als_json(g.Programmverzeichnis)},
             {"Einstellungsdatei", als_json(g.Einstellungsdatei)},
             {"Windowsverzeichnis", als_json(g.Windowsverzeichnis)},
             {"Datei_Verzeichnis", als_json(g.Datei_Verzeichnis)},

@@ -65,6 +65,25 @@ TEST(GesamtBatch, schreibt_jede_zeile_auf_das_byte)
         {"alle_l0", [](Gesamtstand& s) { s.g.Auswertemodus = "L0"; }},
         {"alle_utm_zone", [](Gesamtstand& s) { s.g.UTM_Zone = "32"; }},
         {"alle_unc", [](Gesamtstand& s) { s.verlegen("\\\\server\\freigabe", "\\\\server\\freigabe\\Muster"); }},
+        {"alle_umlaute",
+         [](Gesamtstand& s) {
+             const std::string name = t1252("ö503092.05o");
+             s.g.OBS_R[3].Dateiname = s.g.ROVER_TOREL[3].ROVER_Dateiname = name;
+             s.g.ROVER_Settings[3].ROVER_Dateiname = name;
+             s.g.Verfahrensname = s.g.Verfahren[1].Name = t1252("Büro Süd & Größe");
+             s.g.EXE_Verzeichnis = t1252("C:\\Programme für Vermessung\\WaSoft");
+             s.verlegen("D:", t1252("D:\\Übung Nr. 5\\Straße ä"));
+         }},
+        {"alle_apc",  // this way of working takes the old antenna files, and none of the rovers' settings
+         [](Gesamtstand& s) {
+             s.g.Verfahren[1].Antenne = "APC";
+             const std::string antenne = "TRM22020.00+GP  NONE\r\n";
+             s.legen("001.APC", verkettet("\n\n\n\n\n\n\n\n\n\n\n", antenne));
+             s.legen("001.COO", std::string(41, ' ') + antenne);
+             s.g.MARKER_Info = "L";
+             s.g.ROVER_Settings[1].Elevation = 10;
+             s.g.ROVER_Settings[1].Solution = 1;
+         }},
         {"alle_rot", [](Gesamtstand& s) { s.status(2, 3, 0); }}};
     for (const auto& fall : tafel) {
         SCOPED_TRACE(fall.name);

@@ -45,7 +45,7 @@ void satelliten(Beispiel& b)
 const std::array<Fall, 17> faelle = {{
     {"einfach", "fremd_einfach", [](Beispiel&) {}},
     {"elevation_10", "fremd_elevation_10", [](Beispiel& b) { einstellung(b).Elevation = 10; }},
-    {"solution_0", nullptr, [](Beispiel& b) { einstellung(b).Solution = 0; }},
+    {"solution_0", "fremd_solution_0", [](Beispiel& b) { einstellung(b).Solution = 0; }},
     {"solution_1_minuten", "fremd_solution_1_minuten",
      [](Beispiel& b) {
          einstellung(b).Solution = 1;
@@ -75,7 +75,7 @@ const std::array<Fall, 17> faelle = {{
          b.g.EXE_Verzeichnis = t1252("C:\\Programme für Vermessung\\WaSoft");
          b.verlegen("D:", t1252("D:\\Übung Nr. 5\\Straße ä"));
      }},
-    {"unc", nullptr, [](Beispiel& b) { b.verlegen("\\\\server\\freigabe", "\\\\server\\freigabe\\Muster"); }},
+    {"unc", "fremd_unc", [](Beispiel& b) { b.verlegen("\\\\server\\freigabe", "\\\\server\\freigabe\\Muster"); }},
     {"umlaut_rover", nullptr,  // and more stations assigned than there are names
      [](Beispiel& b) {
          const std::string name = t1252("ä501092a.05o");

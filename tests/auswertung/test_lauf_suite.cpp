@@ -105,6 +105,19 @@ TEST(LaufMitSuite, ein_batch_rechnet_das_ganze_verfahren)
     EXPECT_THAT(lesen(projekt / "001.KRZ"), HasSubstr("Anzahl L1 fixed:    2\r\n"));
     EXPECT_FALSE(lesen(projekt / "001.LIS").empty());
     EXPECT_FALSE(fs::exists(projekt / "001.ERR"));
+
+    // Rover by rover, with the mask that the batch of the whole leaves to the programs, the same lines come out.
+    const std::string kurz = lesen(projekt / "001.KRZ");
+    netz.gut({"einstellen", "1", "alle", "Elevation=10"});
+    netz.gut({"auswerten", "1"});
+    std::string einzeln, einzeln_kurz;
+    for (const std::string rover : {"55011670.16o", "55041670.16o"}) {
+        einzeln += lesen(projekt / "jorv_out/dat_rov" / (rover + ".UTM"));
+        einzeln_kurz += lesen(projekt / "jorv_out/krz_rov" / (rover + ".KRZ"));
+    }
+    EXPECT_EQ(punkte, einzeln);
+    EXPECT_EQ(einzeln_kurz.size(), 2 * 102u);
+    EXPECT_THAT(kurz, HasSubstr("\r\n" + einzeln_kurz + "\r\n"));
 }
 
 }  // namespace

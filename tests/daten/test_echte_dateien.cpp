@@ -5,9 +5,12 @@
 #include <map>
 #include <set>
 
+#include "daten/antennen_datei.h"
+#include "daten/antennentest.h"
 #include "daten/dateiname.h"
 #include "daten/punkt_info.h"
 #include "daten/satelliten.h"
+#include "modell/Baum.h"
 #include "plattform/zahl.h"
 #include "proben.h"
 
@@ -129,6 +132,57 @@ TEST(EchteDateien, JedeDateiGehtDurchBeideLeser)
                                   satz.DelSatelliteName.begin() + 1 + satz.AnzahlDelSatellite);
         EXPECT_EQ(ist, satelliten_einfach(lesen(quelle))) << name;
     }
+}
+
+// What public calibration files and real headers make of the checks: type means without numbers, two frames, and
+// antennas of which only the dome or the make is known.
+TEST(EchteDateien, Antennen)
+{
+    const fs::path antennen = wurzel / "antennen";
+    if (!fs::exists(antennen)) GTEST_SKIP() << "no real data at " << wurzel;
+    Pruefstand p;
+    p.g.Verfahren[1].Antenne = "ATX";
+    const auto legen = [&](const char* name, const std::string& inhalt) {
+        schreiben(p.pfad(name), inhalt);
+        ASSERT_TRUE(p.g.Antennen_Dateien.anfuegen(name));
+    };
+    const std::string igs05 = lesen(antennen / "igs05_auszug.atx"), igs08 = lesen(antennen / "igs08_auszug.atx");
+    std::string relativ = igs05;
+    relativ[relativ.find("\nA  ") + 1] = 'R';
+    legen("igs05.atx", igs05);
+    legen("relativ.atx", relativ);
+    legen("igs08.atx", igs08);
+    EXPECT_TRUE(ist_fehler(VerfahrensATX_erzeugen(p.g)));
+    EXPECT_NE(p.schirm.einzige().find(">absolut< kalibriert"), std::string::npos) << p.schirm.einzige();
+    ASSERT_FALSE(ist_fehler(VerfahrensATX_erzeugen(p.g)));
+    EXPECT_EQ(ersetzt(lesen(p.pfad("001.ATX")), "\r\n", "\n"), igs05 + igs08);
+    p.schirm.gezeigt.clear();
+
+    for (const char* name : {"delf0010.21o", "eijs0010.21o", "zegv0010.21o", "wsra0010.21o"}) {
+        fs::copy_file(wurzel / "niederlande2021" / name, p.pfad(name));
+        ASSERT_FALSE(ist_fehler(punkt_info_lesen(p.g, name))) << p.schirm.einzige();
+        ROVER_TOREL_Satz satz;
+        satz.ROVER_Dateiname = name;
+        satz.Status = 1;
+        ASSERT_TRUE(p.g.ROVER_TOREL.anfuegen(satz));
+    }
+    baum_aufbauen(p.g);
+    const auto fehlende = [&] {
+        EXPECT_TRUE(ist_fehler(antennendatentest(p.g)));
+        const std::string protokoll = lesen(p.pfad("001.KRZ"));
+        std::string namen;
+        for (const auto& rover : p.g.OBS_R)
+            if (protokoll.find("\"" + rover.Dateiname + "\" ist nicht") != std::string::npos)
+                namen += rover.Punktkennzeichen + " ";
+        return namen;
+    };
+    EXPECT_EQ(fehlende(), "delf eijs zegv wsra ");
+    p.g.Typkalibrierung = "J";
+    EXPECT_EQ(fehlende(), "zegv wsra ");
+    for (const int i : {3, 4}) p.g.ROVER_Settings[i].Ein_Ausschalterkennung = 0;
+    EXPECT_FALSE(ist_fehler(antennendatentest(p.g)));
+    ASSERT_EQ(p.g.antennenliste.size(), 2u);
+    EXPECT_EQ(p.g.antennenliste[1].substr(20), "LEIAR25.R4      LEIT");
 }
 
 }  // namespace jorv

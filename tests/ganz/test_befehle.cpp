@@ -102,20 +102,43 @@ TEST(Ganz_Befehle, GanzesVerfahrenRechnenUndEinenRoverZuruecknehmen)
     EXPECT_TRUE(leer["OBS_R"].empty() && leer["Antennen_Dateien"].empty()) << leer["OBS_R"];
 }
 
-TEST(Ganz_Befehle, VerschobenesVerfahrenWirdImportiert)
+TEST(Ganz_Befehle, VerschobenesVerfahrenWirdImportiertUndWeiterBearbeitet)
 {
     const Beispielplatz platz;
+    platz.gut({"antennen", "1", "beispiel/antennen/antennen.atx"});
     platz.gut({"rinex", "1", "beispiel/rinex"});
-    fs::copy(platz.host("verfahren"), platz.host("kopie"));
-    const auto abgelehnt = platz.jorv({"--json", "importieren", "kopie/001.INI"});
+    platz.gut({"figur", "1", "0590", "0591", "0593"});
+    fs::rename(platz.host("verfahren"), platz.host("von Anna"));
+    platz.gut({"neu", "Eins", "--modus", "E", "--verzeichnis", "verfahren"});
+    const auto abgelehnt = platz.jorv({"--json", "importieren", "von Anna/001.INI"});
     EXPECT_EQ(abgelehnt.status, 1);
     EXPECT_THAT(abgelehnt.err, HasSubstr("Name >Waldweg<: bereits vergeben"));
     EXPECT_EQ(Json::parse(abgelehnt.aus)["Statuswort"], "0111111");
-    ablehnen(platz, {{{"importieren", "kopie/001.INI", "--name", "Zwei", "--nummer", "1"}, 1, "bereits vergeben"},
-                     {{"importieren", "kopie/fehlt.INI"}, 1, "nicht gefunden"}});
-    EXPECT_EQ(platz.gut({"importieren", "kopie/001.INI", "--name", "Zwei"}).aus, "002\n");
-    EXPECT_TRUE(fs::exists(platz.host("kopie/002.INI")));
-    EXPECT_EQ(Json::parse(platz.gut({"--json", "zeigen", "2"}).aus)["OBS_R"].size(), 8u);
+    ablehnen(platz, {{{"importieren", "von Anna/001.INI", "--name", "Zwei", "--nummer", "1"}, 1, "bereits vergeben"},
+                     {{"importieren", "von Anna/fehlt.INI"}, 1, "nicht gefunden"}});
+    EXPECT_EQ(platz.gut({"importieren", "von Anna/001.INI", "--name", "Zwei"}).aus, "003\n");
+    EXPECT_TRUE(fs::exists(platz.host("von Anna/003.ATX")));
+    EXPECT_EQ(Json::parse(platz.gut({"--json", "zeigen", "3"}).aus)["OBS_R"].size(), 8u);
+
+    platz.gut({"--ja", "rover-loeschen", "3", "55011670.16o"});
+    EXPECT_FALSE(fs::exists(platz.host("von Anna/55011670.16o")));
+    platz.gut({"zuordnen", "3", rover, "05901670.16o", "05911670.16o", "05981670.16o", "--schutz"});
+    platz.gut({"einstellen", "3", "alle", "Elevation=12", "DelFirstMinutes=3", "Solution=1", "SV:G05=0"});
+    // A new figure renews the choice of all that are not protected; the first one holds this rover with 0593.
+    platz.gut({"figur", "3", "0590", "0593", "0598", "0596"});
+    const Json danach = Json::parse(platz.gut({"--json", "zeigen", "3", "rover"}).aus);
+    ASSERT_EQ(danach["ROVER_TOREL"].size(), 7u);
+    for (const auto& satz : danach["ROVER_Settings"]) EXPECT_EQ(satz["Elevation"], 12) << satz;
+    platz.gut({"batch", "3", rover});
+    const std::string einzeln = lesen(platz.host("von Anna/003.BAT"));
+    EXPECT_THAT(einzeln, HasSubstr("von Anna\r\n"));
+    EXPECT_THAT(einzeln, HasSubstr("\r\nwav2 " + rover + " 0590,0591,0598 +PRO +E +A003.ATX -e12 >> 003.LIS\r\n"));
+    EXPECT_THAT(einzeln, HasSubstr("\r\nwa2 virt167.16o " + rover + " +ACF003.ATX +TL1 -e12 -M3 -N0 -SVG05 +L2 +E-"));
+    platz.gut({"--ja", "batch", "3"});
+    const std::string alle = lesen(platz.host("von Anna/003.BAT"));
+    EXPECT_THAT(alle,
+                HasSubstr("\r\nwasoft 1670 0590,0591,0598 +Vvirt," + rover + " +A003.ATX +C003.COO >> 003.LIS\r\n"));
+    EXPECT_THAT(alle, testing::Not(HasSubstr("55011670")));
 }
 
 }  // namespace

@@ -8,7 +8,7 @@ namespace jorv {
 namespace {
 
 constexpr std::array<Batchzeile, 6> kopf = {{{"REM"},
-                                             {"REM JORV {VERSION} vom {VERSIONSDATUM}", Zeilenart::konsole},
+                                             {"REM {PROGRAMM} {VERSION} vom {VERSIONSDATUM}", Zeilenart::konsole},
                                              {"REM {TITEL}: {VNAME} ({VNR})", Zeilenart::konsole},
                                              {"REM am: {DATUM} um: {ZEIT}", Zeilenart::konsole},
                                              {"REM"},
@@ -16,8 +16,9 @@ constexpr std::array<Batchzeile, 6> kopf = {{{"REM"},
 
 }  // namespace
 
-void batchkopf(const Global& g, Batchtext& batch, std::string_view titel)
+void batchkopf(const Global& g, Batchtext& batch, std::string_view titel, std::string_view programm)
 {
+    batch.setzen("PROGRAMM", programm);
     batch.setzen("TITEL", titel);
     batch.setzen("VERSION", programm_version);
     batch.setzen("VERSIONSDATUM", programm_datum);

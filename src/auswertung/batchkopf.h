@@ -11,9 +11,10 @@ namespace jorv {
 
 inline constexpr std::string_view titel_rover = "WaSoft- Auswertung von";
 inline constexpr std::string_view titel_basislinien = "WaSoft-(Basislinien)-Auswertung von";
+inline constexpr std::string_view titel_i95 = "WaSoft-(I95)-Auswertung von";
 
 /// The nine lines from the first "REM" to the change into the project's folder.
-void batchkopf(const Global& g, Batchtext& batch, std::string_view titel);
+void batchkopf(const Global& g, Batchtext& batch, std::string_view titel, std::string_view programm = "JORV");
 
 inline constexpr std::array<Batchzeile, 5> block_fehlerliste = {
     {{"REM"}, {"REM ============"}, {"REM Fehlerliste:"}, {"REM ============"}, {"REM"}}};

@@ -5,9 +5,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace jorv {
+
+struct Fensterstart;
 
 enum class Symbol { keins, stop, warnung, info, frage };
 enum class Antwort { nein, ja };
@@ -61,6 +64,9 @@ public:
 
     /// Shows a text file in the editor; false when it couldn't be started.
     virtual bool im_editor_oeffnen(std::string_view pfad) = 0;
+    /// Starts a program in a window of its own, which shows what it prints, and returns at once; the error when it
+    /// couldn't be started. Unless a front end has a window of its own for it, that of the system does.
+    virtual std::error_code im_fenster_starten(const Fensterstart& start);
 
     /// The modal dialogs that a command needs; nothing means cancelled.
     virtual std::optional<Dateiwahl> dateien_waehlen(Dateiart art, std::string_view verzeichnis) = 0;

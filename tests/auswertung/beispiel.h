@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cerrno>
+#include <cstdlib>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -157,6 +158,17 @@ struct Beispiel : Pruefstand {
     void versperren(std::string_view name) { (void)g.dateien.ordner_anlegen(im_Verfahren(g, name)); }
     /// The path of a project file as a message shows it (UTF-8).
     std::string pfad8(std::string_view name) const { return utf8_aus_1252(im_Verfahren(g, name)); }
+};
+
+/// The programs on the search path: the suite, which the dates come from, and the interpreter.
+struct Suite_im_Pfad {
+    explicit Suite_im_Pfad(Global& g)
+    {
+        g.EXE_Verzeichnis = g.Programmverzeichnis;
+        ::setenv("PATH", (JORV_PROGRAMME ":" + alt).c_str(), 1);
+    }
+    ~Suite_im_Pfad() { ::setenv("PATH", alt.c_str(), 1); }
+    std::string alt = std::getenv("PATH");
 };
 
 inline std::string probe(const std::string& name)

@@ -1,7 +1,6 @@
 // Baselines: their batches to the byte, their run, and the files that follow from it.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <functional>
 
 #include "auswertung/basis_batch.h"
@@ -157,17 +156,6 @@ TEST(BasisErgebnis, nur_eine_fehlende_extraktion_beendet_den_lauf)
     EXPECT_FALSE(b.hat("jorv_out\\dat_bas\\001.BAL"));
     EXPECT_FALSE(b.hat("jorv_out\\export\\001.TEM"));
 }
-
-// The programs of the suite on the search path, which the dates come from.
-struct Suite_im_Pfad {
-    explicit Suite_im_Pfad(Global& g)
-    {
-        g.EXE_Verzeichnis = g.Programmverzeichnis;
-        ::setenv("PATH", (JORV_PROGRAMME ":" + alt).c_str(), 1);
-    }
-    ~Suite_im_Pfad() { ::setenv("PATH", alt.c_str(), 1); }
-    std::string alt = std::getenv("PATH");
-};
 
 TEST(BasisLauf, rechnet_jede_basislinie_und_schreibt_die_folgedateien)
 {

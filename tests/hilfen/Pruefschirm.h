@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "plattform/fensterstart.h"
 #include "plattform/oberflaeche.h"
 #include "plattform/text.h"
 #include "plattform/umgebung.h"
@@ -67,6 +68,11 @@ public:
         geoeffnet.emplace_back(pfad);
         return editor_startet;
     }
+    std::error_code im_fenster_starten(const Fensterstart& start) override
+    {
+        gestartet.push_back(start);
+        return start.programm.empty() ? std::make_error_code(std::errc::no_such_file_or_directory) : std::error_code();
+    }
     std::optional<Dateiwahl> dateien_waehlen(Dateiart, std::string_view) override
     {
         if (dateiwahlen.empty()) return std::nullopt;
@@ -106,6 +112,7 @@ public:
     std::vector<Verfahrenswahl> vorschlaege;
     std::vector<std::string> fortschritt, geoeffnet;
     std::vector<double> prozente;
+    std::vector<Fensterstart> gestartet;  ///< programs in windows of their own; none is really started
     std::string fenstertitel;
     int baum_erneuert = 0, karte_gezeichnet = 0, menue_erneuert = 0, liste_erneuert = 0, gepiept = 0;
     int ereignisse_zahl = 0;

@@ -1,0 +1,47 @@
+// Programs in a window of their own: started, and nobody waits for them. On Linux the front end is the window, so what
+// is to be started is told apart from its start.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "plattform/datei.h"
+
+namespace jorv {
+
+/// What to start, in the host's terms.
+struct Fensterstart {
+    std::filesystem::path programm;      ///< empty: there is no such program
+    std::vector<std::string> argumente;  ///< UTF-8
+    std::filesystem::path ordner;        ///< its working directory
+};
+
+/// A batch file (DOS path) in its own folder. Linux: by the program `jorv-dos` beside the running program, else in
+/// PATH.
+Fensterstart batch_start(const Dateisystem& dateien, std::string_view batchdatei);
+
+/// A program (DOS path) with one argument, in that folder (DOS path). Linux: where "X.EXE" is missing, the program "x"
+/// beside its place.
+Fensterstart programm_start(const Dateisystem& dateien, std::string_view programm, std::string_view argument,
+                            std::string_view ordner);
+
+/// Where the output of the program goes. A window: Windows opens one, on Linux the output is dropped. The standard
+/// error of the running program takes both of its streams.
+enum class Fensterausgabe { fenster, fehlerausgabe };
+
+struct Gestartet {
+    std::error_code fehler;          ///< why it couldn't be started
+    std::function<void()> abwarten;  ///< returns when it has ended; empty for a window
+};
+
+/// Starts it and returns at once. Its standard input is at its end.
+Gestartet fenster_starten(const Fensterstart& start, Fensterausgabe ausgabe);
+
+/// Number and text of a start that failed: "2 Datei nicht gefunden".
+std::string startfehler_text(std::error_code fehler);
+
+}  // namespace jorv

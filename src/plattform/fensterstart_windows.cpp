@@ -1,0 +1,65 @@
+#include "plattform/fensterstart.h"
+
+#include <windows.h>
+
+#include "plattform/pfad.h"
+#include "plattform/text.h"
+
+namespace jorv {
+
+namespace {
+
+std::wstring breit(std::string_view utf8)
+{
+    const int laenge = static_cast<int>(utf8.size());
+    std::wstring text(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, nullptr, 0)),
+                      L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, text.data(), static_cast<int>(text.size()));
+    return text;
+}
+
+}  // namespace
+
+Fensterstart batch_start(const Dateisystem& dateien, std::string_view batchdatei)
+{
+    Fensterstart start;
+    if (dateien.ist_datei(batchdatei)) start.programm = dateien.host(batchdatei);
+    start.ordner = dateien.host(pfad_ordner(batchdatei));
+    return start;
+}
+
+Fensterstart programm_start(const Dateisystem& dateien, std::string_view programm, std::string_view argument,
+                            std::string_view ordner)
+{
+    Fensterstart start;
+    if (dateien.ist_datei(programm)) start.programm = dateien.host(programm);
+    start.argumente = {utf8_aus_1252(argument)};
+    start.ordner = dateien.host(ordner);
+    return start;
+}
+
+Gestartet fenster_starten(const Fensterstart& start, Fensterausgabe ausgabe)
+{
+    if (start.programm.empty()) return {std::make_error_code(std::errc::no_such_file_or_directory), {}};
+    std::wstring zeile = L"\"" + start.programm.wstring() + L"\"";
+    for (const auto& wort : start.argumente) zeile += L" \"" + breit(wort) + L"\"";
+    const bool fenster = ausgabe == Fensterausgabe::fenster;
+    STARTUPINFOW auskunft{};
+    auskunft.cb = sizeof auskunft;
+    PROCESS_INFORMATION kind{};
+    if (CreateProcessW(nullptr, zeile.data(), nullptr, nullptr, fenster ? FALSE : TRUE,
+                       fenster ? CREATE_NEW_CONSOLE : 0, nullptr, start.ordner.empty() ? nullptr : start.ordner.c_str(),
+                       &auskunft, &kind) == 0)
+        return {std::error_code(static_cast<int>(GetLastError()), std::system_category()), {}};
+    CloseHandle(kind.hThread);
+    const HANDLE prozess = kind.hProcess;
+    if (!fenster)
+        return {{}, [prozess] {
+                    WaitForSingleObject(prozess, INFINITE);
+                    CloseHandle(prozess);
+                }};
+    CloseHandle(prozess);
+    return {};
+}
+
+}  // namespace jorv

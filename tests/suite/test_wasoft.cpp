@@ -5,6 +5,7 @@
 #include "suite/Pruefdaten.h"
 #include "suite/ergebnistext.h"
 #include "suite/waprt.h"
+#include "suite/washmod.h"
 
 namespace jorv::suite {
 
@@ -121,6 +122,18 @@ TEST(Wasoft, koordinatendatei_geht_dem_dateikopf_vor)
     const auto nachher = loesung_lesen(p.text("07590920.prt"));
     ASSERT_TRUE(nachher);
     EXPECT_NEAR(nachher->rover.z - vorher.z, 1.0, 0.002);
+}
+
+TEST(Washmod, sagt_dass_es_die_modelldatei_noch_nicht_auswertet)
+{
+    for (const auto& [worte, meldung] :
+         {std::pair<Worte, const char*>{{"model.wam", "+Si"}, "aus model.wam kann noch nicht"},
+          {{"model.wam"}, "washmod DATEI +Si"}}) {
+        Protokoll p;
+        EXPECT_EQ(washmod(worte, p), 1);
+        EXPECT_NE(p.text().find(meldung), std::string::npos) << p.text();
+        EXPECT_TRUE(p.text().starts_with("ERROR: washmod: "));
+    }
 }
 
 }  // namespace jorv::suite

@@ -17,6 +17,8 @@ std::span<const Befehl> befehle_einstellen();
 std::span<const Befehl> befehle_rover();
 std::span<const Befehl> befehle_zeiten();
 std::span<const Befehl> befehle_auswertung();
+std::span<const Befehl> befehle_basis();
+std::span<const Befehl> befehle_folge();
 std::span<const Befehl> befehle_katalog();
 std::span<const Befehl> befehle_hilfe();
 

@@ -89,6 +89,19 @@ bool Konsolenschirm::im_editor_oeffnen(std::string_view pfad)
     return true;
 }
 
+std::error_code Konsolenschirm::im_fenster_starten(const Fensterstart& start)
+{
+    m_meldungen << std::flush;
+    auto [fehler, abwarten] = fenster_starten(start, Fensterausgabe::fehlerausgabe);
+    if (abwarten) m_fenster.push_back(std::move(abwarten));
+    return fehler;
+}
+
+void Konsolenschirm::fenster_abwarten()
+{
+    for (const auto& abwarten : std::exchange(m_fenster, {})) abwarten();
+}
+
 std::optional<Dateiwahl> Konsolenschirm::dateien_waehlen(Dateiart, std::string_view)
 {
     return std::exchange(dateiwahl, std::nullopt);

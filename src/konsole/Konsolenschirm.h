@@ -8,7 +8,10 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
+#include "plattform/fensterstart.h"
 #include "plattform/oberflaeche.h"
 
 namespace jorv {
@@ -36,6 +39,10 @@ public:
     bool ereignisse() override;
     /// Prints the path.
     bool im_editor_oeffnen(std::string_view pfad) override;
+    /// What the program prints streams onto standard error.
+    std::error_code im_fenster_starten(const Fensterstart& start) override;
+    /// Returns when all programs started so have ended: what follows on the command line counts on their files.
+    void fenster_abwarten();
     /// Gives `dateiwahl` once, then cancels.
     std::optional<Dateiwahl> dateien_waehlen(Dateiart art, std::string_view verzeichnis) override;
     /// Gives `verfahrenswahl` once, then cancels, so that a refused choice isn't offered for ever.
@@ -61,6 +68,7 @@ private:
     std::function<bool()> m_abbruch;
     std::string m_fortschritt;  // UTF-8
     int m_prozent = 0;
+    std::vector<std::function<void()>> m_fenster;
     bool m_fortschritt_erlaubt = false, m_sichtbar = false;
     std::chrono::steady_clock::time_point m_gezeichnet{};
     int m_stopmeldungen = 0;

@@ -48,6 +48,10 @@ struct Lage {
     {
         return stop(verkettet("Den ROVER ", text_aus_utf8_mit_ersatz(utf8), " gibt es im Verfahren nicht!"));
     }
+    Ausgang basislinie_unbekannt(std::string_view utf8)
+    {
+        return stop(verkettet("Die Basislinie ", text_aus_utf8_mit_ersatz(utf8), " gibt es im Verfahren nicht!"));
+    }
     Ausgang nicht_in_diesem_modus()
     {
         return stop(verkettet("Im Modus ", Modus_Buchstabe(g.Verfahrensmodus), " gibt es diesen Befehl nicht!"));
@@ -58,6 +62,16 @@ struct Lage {
         const std::string name = text_aus_utf8_mit_ersatz(utf8);
         for (int i = 1; i <= g.OBS_R.anzahl(); ++i)
             if (gleich_ohne_gross(g.OBS_R[i].Dateiname, name)) return i;
+        return 0;
+    }
+    /// Index of a baseline by its name ("<Datei_von>-<Datei_nach>") in any case, 0 when the project has none of that
+    /// name.
+    int basislinie_index(std::string_view utf8) const
+    {
+        const std::string name = text_aus_utf8_mit_ersatz(utf8);
+        for (int i = 1; i <= g.BASISLINIE.anzahl(); ++i)
+            if (gleich_ohne_gross(verkettet(g.BASISLINIE[i].Datei_von, "-", g.BASISLINIE[i].Datei_nach), name))
+                return i;
         return 0;
     }
     /// Wrong use of a command, told in UTF-8.

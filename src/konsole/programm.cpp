@@ -49,6 +49,7 @@ Ausgang ausfuehren(Lage& lage)
     lage.schirm.fortschritt_erlauben();
     const int vorher = lage.schirm.stopmeldungen();
     Ausgang ausgang = lage.aufruf.befehl->ausfuehren(lage);
+    lage.schirm.fenster_abwarten();
     const bool sichern = lage.geaendert && lage.g.Verfahren_offen() && lage.g.vollstaendig_gelesen;
     if (sichern && ist_fehler(Verfahren_sichern(lage.g))) ausgang = Ausgang::misslungen;
     if (ausgang == Ausgang::gut && lage.schirm.stopmeldungen() > vorher) ausgang = Ausgang::misslungen;

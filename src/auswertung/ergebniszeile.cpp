@@ -1,4 +1,4 @@
-#include "konsole/Ergebnis.h"
+#include "auswertung/ergebniszeile.h"
 
 #include "plattform/pfad.h"
 #include "plattform/text.h"

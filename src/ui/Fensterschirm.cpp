@@ -2,6 +2,7 @@
 
 #include <QMessageBox>
 
+#include "ui/Betrachter.h"
 #include "ui/Fortschrittsfeld.h"
 #include "ui/frmHauptform.h"
 #include "ui/qtext.h"
@@ -9,6 +10,9 @@
 namespace jorv {
 
 namespace {
+
+// The editor of the settings that means the program's own viewer.
+constexpr std::string_view eigener_betrachter = "Notepad.exe";
 
 QMessageBox::Icon bild(Symbol symbol)
 {
@@ -126,9 +130,11 @@ void Fensterschirm::piepen()
     QApplication::beep();
 }
 
-bool Fensterschirm::im_editor_oeffnen(std::string_view)
+bool Fensterschirm::im_editor_oeffnen(std::string_view pfad)
 {
-    return false;
+    if (!m_hauptform) return false;
+    const Global& g = m_hauptform->g();
+    return gleich_ohne_gross(g.Editor, eigener_betrachter) && Betrachter::zeigen(g.dateien, std::string(pfad));
 }
 
 std::optional<Dateiwahl> Fensterschirm::dateien_waehlen(Dateiart, std::string_view)

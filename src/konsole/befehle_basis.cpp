@@ -2,11 +2,11 @@
 
 #include "auswertung/basis_ausfuehren.h"
 #include "auswertung/basis_gesamt.h"
+#include "auswertung/baumbefehle.h"
 #include "daten/beziehungsliste.h"
 #include "konsole/Befehle.h"
 #include "konsole/Lage.h"
 #include "konsole/batchdateien.h"
-#include "projekt/basislinie_loeschen.h"
 
 namespace jorv {
 
@@ -45,7 +45,9 @@ Ausgang basislinie_loeschen(Lage& lage)
     const int stelle = lage.basislinie_index(lage.wort(1));
     if (stelle == 0) return lage.basislinie_unbekannt(lage.wort(1));
     const int vorher = lage.g.BASISLINIE.anzahl();
-    const Fehler fehler = BASISLINIE_loeschen(lage.g, basislinie_name(lage.g.BASISLINIE[stelle]));
+    const std::string name = basislinie_name(lage.g.BASISLINIE[stelle]);
+    const std::string eltern = baum_eltern_von(lage.g.baum, {"B_Datei", "BB_Datei"}, name);
+    const Fehler fehler = baum_befehl(lage.g, "mnu_tree_loeschen", name, eltern).fehler;
     lage.geaendert = lage.g.BASISLINIE.anzahl() != vorher;
     return ist_fehler(fehler) ? Ausgang::misslungen : Ausgang::gut;
 }

@@ -1,20 +1,14 @@
-// A real baseline with the built-in suite, held against its published vector, by both ways of computing.
+// Real baselines on the command line with the built-in suite, held against their published vector, by both ways.
 #include <gtest/gtest.h>
 
 #include <GeographicLib/LocalCartesian.hpp>
 #include <cmath>
-#include <cstdlib>
+#include <string>
+#include <vector>
 
-#include "app/start.h"
-#include "auswertung/aufrufdatei.h"
-#include "auswertung/basis_gesamt.h"
-#include "auswertung/basis_lovena.h"
-#include "auswertung/lauf.h"
 #include "ganz/Programmlauf.h"
-#include "modell/Baum.h"
 #include "plattform/wort.h"
 #include "plattform/zahl.h"
-#include "projekt/verfahren.h"
 
 using namespace jorv;
 using namespace jorv::hilfen;
@@ -36,55 +30,111 @@ double abweichung(std::string_view reihe)
     return std::hypot(X + wort(3) - x, Y + wort(4) - y, Z + wort(5) - z);
 }
 
-TEST(BasisMitSuite, zwei_wege_geben_den_veroeffentlichten_vektor)
+// A project of mode B on the real observations, driven by command lines alone.
+struct Basisplatz : Arbeitsplatz {
+    explicit Basisplatz(const fs::path& daten)
+    {
+        fs::create_directories(host("rinex"));
+        for (const auto& [alt, neu] : {std::pair{"upc10770.10o", "55010770.10o"},
+                                       {"upc20770.10o", "55020770.10o"},
+                                       {"upc10770.10o", "05830770.10o"},
+                                       {"brdc0770.10n", "brdc0770.10n"}})
+            fs::copy_file(daten / alt, host("rinex") / neu);
+        hilfen::schreiben(host("katalog.txt"), "0601 4833520.1197 41537.2015 4147461.6263 Ebre\n");
+        hilfen::schreiben(host("grenzen.txt"), "2 -200000 4500000\n1 0 4700000\n");
+        hilfen::schreiben(host("paare.txt"), "5501 5502\r\n\r\n5502 5501 und mehr\r\n");
+        const std::string antennen = (daten.parent_path() / "antennen/igs08_auszug.atx").string();
+        gut({"katalog", "machen", "katalog.txt"});
+        gut({"grenzen", "machen", "grenzen.txt"});
+        gut({"neu", "Linie", "--modus", "B", "--verzeichnis", "linie"});
+        gut({"--ja", "rinex", "1", "rinex"});
+        gut({"antennen", "1", antennen});
+    }
+    // Standard output of a command that must succeed.
+    std::string gut(const std::vector<std::string>& worte) const
+    {
+        const auto lauf = jorv(worte);
+        EXPECT_EQ(lauf.status, 0) << worte[0] << ": " << lauf.err;
+        return lauf.aus;
+    }
+    std::string datei(std::string_view name) const { return lesen(host("linie") / std::string(name)); }
+    bool hat(std::string_view name) const { return fs::exists(host("linie") / std::string(name)); }
+};
+
+const std::string linie = "55010770.10o-55020770.10o";
+
+// Points, vector, deviations, correlations, day; only the session may follow.
+void mrk_pruefen(std::string_view reihe)
+{
+    std::vector<double> zahlen;
+    for (int i = 3; i <= 12; ++i) {
+        const auto zahl = zahl_streng(wort_finden(reihe, i).text);
+        ASSERT_TRUE(zahl) << "word " << i << " of " << reihe;
+        zahlen.push_back(*zahl);
+    }
+    EXPECT_LT(abweichung(reihe), 0.02) << reihe;
+    for (std::size_t i = 3; i < 6; ++i) EXPECT_TRUE(zahlen[i] > 0 && zahlen[i] < 20) << reihe;
+    for (std::size_t i = 6; i < 9; ++i) EXPECT_LE(std::abs(zahlen[i]), 1) << reihe;
+    EXPECT_EQ(zahlen[9], 77);
+}
+
+TEST(BasisMitSuite, von_der_liste_der_paare_bis_zur_ausgleichung)
 {
     const fs::path daten = fs::path(JORV_DATEN) / "echt/katalonien2010";
     if (!fs::exists(daten / "upc10770.10o")) GTEST_SKIP() << "The real observations are missing: " << daten.string();
-    const Arbeitsplatz platz;
-    fs::create_directories(platz.host("rinex"));
-    for (const auto& [alt, neu] : {std::pair{"upc10770.10o", "55010770.10o"},
-                                   {"upc20770.10o", "55020770.10o"},
-                                   {"brdc0770.10n", "brdc0770.10n"}})
-        fs::copy_file(daten / alt, platz.host("rinex") / neu);
-    hilfen::schreiben(platz.host("katalog.txt"), "0601 4833520.1197 41537.2015 4147461.6263 Ebre\n");
-    hilfen::schreiben(platz.host("grenzen.txt"), "2 -200000 4500000\n1 0 4700000\n");
-    const std::string antennen = (daten.parent_path() / "antennen/igs08_auszug.atx").string();
-    for (const std::vector<std::string>& worte : {std::vector<std::string>{"katalog", "machen", "katalog.txt"},
-                                                  {"grenzen", "machen", "grenzen.txt"},
-                                                  {"neu", "Linie", "--modus", "B", "--verzeichnis", "linie"},
-                                                  {"--ja", "rinex", "1", "rinex"},
-                                                  {"antennen", "1", antennen}})
-        ASSERT_EQ(platz.jorv(worte).status, 0) << worte[0];
+    const Basisplatz platz(daten);
+    EXPECT_EQ(platz.gut({"basislinien", "1", "paare.txt"}), linie + "\n");
+    platz.gut({"batch", "1", linie, "--emds"});
+    EXPECT_NE(platz.datei("001.BAT").find(" +SE +FS001.EMD\r\n"), std::string::npos);
+    EXPECT_NE(platz.gut({"auswerten", "1", "--emds"}).find(linie + "  FixedL1"), std::string::npos);
+    mrk_pruefen(platz.datei("jorv_out/export/001.MRK"));
+    EXPECT_EQ(platz.datei("jorv_out/export/001.EPO"), "55010770.10o 3600\r\n55020770.10o 3600\r\n");
+    EXPECT_EQ(platz.datei("jorv_out/export/001.SIG").rfind("5501 5502 18.03.2010 ", 0), 0u);
+    EXPECT_EQ(platz.datei("jorv_out/export/001.AMB").rfind("5501 5502 18.03.2010", 0), 0u);
+    for (const char* name : {"export/001.TEM", "export/001.EMD", "dat_bas/001.BAL", "dat_bas/55010770-55020770.BAL",
+                             "lis_bas/55010770-55020770.lis", "prot_bas/55010770-55020770.prt"})
+        EXPECT_GT(platz.datei(std::string("jorv_out/") + name).size(), 80u) << name;
+    platz.gut({"esa", "1"});
+    platz.gut({"rv", "1"});
+    EXPECT_EQ(platz.datei("RV001.DAT").rfind(" -99\r\n       5501       5502  ", 0), 0u);
+    EXPECT_NE(platz.gut({"export", "1", "--format", "geojson"}).find("\"Loesung\":\"FixedL1\",\"dX\":18.3"),
+              std::string::npos);
 
-    const std::string alter_pfad = std::getenv("PATH");
-    ::setenv("PATH", (platz.host("programme").string() + ":" + alter_pfad).c_str(), 1);
-    Pruefschirm schirm;
-    const Festuhr uhr({2016, 12, 1, 12, 0, 0});
-    Global g(schirm, uhr, Dateisystem());
-    ASSERT_EQ(start(g, {Laufwerke().dos(platz.host("JorvPlus.INI")).value(), {}}), Fehler::keiner);
-    ASSERT_EQ(Verfahren_oeffnen(g, "Linie"), Fehler::keiner);
-    (void)g.BASISLINIE.anfuegen({"5501", "55010770.10o", "5502", "55020770.10o"});
-    baum_aufbauen(g);
-    g.emds_ausgabe = true;
-    EXPECT_EQ(m_wasoft_run_n(g), Fehler::keiner);
-    EXPECT_TRUE(schirm.gezeigt.empty()) << schirm.einzige();
-    const fs::path ablage = platz.host("linie/jorv_out");
-    EXPECT_LT(abweichung(lesen(ablage / "export/001.MRK")), 0.02);
-    EXPECT_EQ(lesen(ablage / "export/001.EPO"), "55010770.10o 3600\r\n55020770.10o 3600\r\n");
-    EXPECT_EQ(lesen(ablage / "export/001.SIG").rfind("5501 5502 18.03.2010 ", 0), 0u);
-    EXPECT_FALSE(lesen(ablage / "export/001.EMD").empty());
-    EXPECT_TRUE(fs::exists(ablage / "lis_bas/55010770-55020770.lis"));
-    EXPECT_EQ(g.baum.finden("BB_Datei")->Kinder.size(), 1u);
-    EXPECT_EQ(m_basis_lovena(g), Fehler::keiner);
-    EXPECT_EQ(lesen(platz.host("linie/RV001.DAT")).rfind(" -99\r\n       5501       5502  ", 0), 0u);
+    EXPECT_NE(platz.gut({"--ja", "basis", "1", "beides"}).find("001.BAT"), std::string::npos);
+    mrk_pruefen(platz.datei("001.MRK"));
+    EXPECT_EQ(platz.datei("001.TEM").rfind("RefS", 0), 0u);
+    EXPECT_TRUE(platz.hat("jorv_out/prot_bas/55010770._55020770.prt"));
 
-    schirm.antworten = {Antwort::ja};
-    EXPECT_EQ(m_basis_erstellen(g), Fehler::keiner);
-    EXPECT_TRUE(prozess_warten(g.dateien, '"' + aufrufdatei(g) + '"'));
-    ::setenv("PATH", alter_pfad.c_str(), 1);
-    EXPECT_LT(abweichung(lesen(platz.host("linie/001.MRK"))), 0.02);
-    EXPECT_EQ(lesen(platz.host("linie/001.TEM")).rfind("RefS", 0), 0u);
-    EXPECT_TRUE(fs::exists(ablage / "prot_bas/55010770._55020770.prt"));
+    EXPECT_EQ(platz.jorv({"basislinie-loeschen", "1", linie}).status, 0);  // the question's default is "no"
+    EXPECT_NE(platz.datei("001.INI").find("55020770.10o"), platz.datei("001.INI").rfind("55020770.10o"));
+    platz.gut({"--ja", "basislinie-loeschen", "1", linie});
+    EXPECT_FALSE(platz.hat("jorv_out/export/001.MRK"));
+    EXPECT_EQ(platz.gut({"--json", "ergebnisse", "1"}), "{\n  \"Ergebnisse\": []\n}\n");
+    EXPECT_EQ(platz.jorv({"basislinie-loeschen", "1", linie}).status, 1);
+}
+
+TEST(BasisMitSuite, was_in_einem_fenster_liefe_laeuft_auf_der_konsole_zu_ende)
+{
+    const fs::path daten = fs::path(JORV_DATEN) / "echt/katalonien2010";
+    if (!fs::exists(daten / "upc10770.10o")) GTEST_SKIP() << "The real observations are missing: " << daten.string();
+    const Basisplatz platz(daten);
+    const auto i95 = platz.jorv({"i95", "1"});
+    EXPECT_EQ(i95.status, 0) << i95.err;
+    EXPECT_NE(i95.err.find("-- I95-Auswertung..."), std::string::npos) << i95.err;
+    EXPECT_EQ(platz.datei("58300770.10o"), platz.datei("05830770.10o"));
+    EXPECT_NE(platz.datei("001.LIS").find("die Modelldatei (+k) kann noch nicht"), std::string::npos);
+    EXPECT_EQ(platz.datei("001.ERR"), platz.datei("001.LIS"));
+
+    hilfen::schreiben(platz.host("linie/HB001.DAT"), "x");
+    EXPECT_NE(platz.jorv({"zeichnen", "1"}).err.find("2 Datei nicht gefunden beim Start von HOLBEK"),
+              std::string::npos);
+    hilfen::schreiben(platz.host("programme/holbek"), "#!/bin/sh\necho \"$PWD $1\"\nsleep 0.3\necho fertig\n");
+    fs::permissions(platz.host("programme/holbek"), fs::perms::owner_all);
+    const auto lauf = platz.jorv({"zeichnen", "1"});
+    EXPECT_EQ(lauf.status, 0);
+    EXPECT_EQ(lauf.err, platz.host("").parent_path().string() + " JorvPlus.INI\nfertig\n");
+    EXPECT_NE(lesen(platz.host("JorvPlus.INI")).find("[HOLBEK]\r\nIcon="), std::string::npos);
+    EXPECT_EQ(platz.jorv({"mitteln", "1"}).status, 1);
 }
 
 }  // namespace

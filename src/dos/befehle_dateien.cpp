@@ -24,20 +24,27 @@ bool schreibgeschuetzt(const fs::path& ort)
     return (fs::status(ort, fehler).permissions() & fs::perms::owner_write) == fs::perms::none;
 }
 
-bool dieselbe_datei(const Umfeld& umfeld, std::string_view a, std::string_view b)
+bool dieselbe_datei(const fs::path& a, const fs::path& b)
 {
     std::error_code fehler;
-    return fs::equivalent(umfeld.dateien.host(a), umfeld.dateien.host(b), fehler) && !fehler;
+    return fs::equivalent(a, b, fehler) && !fehler;
+}
+
+// A name with a wildcard is no folder's, so none is looked for.
+bool ist_ordner(const Umfeld& umfeld, std::string_view pfad)
+{
+    return !hat_platzhalter(pfad_name(pfad)) && umfeld.dateien.ist_ordner(pfad);
 }
 
 bool eine_kopieren(const Umfeld& umfeld, const Stroeme& stroeme, const Fund& quelle, std::string_view ziel)
 {
-    if (dieselbe_datei(umfeld, quelle.pfad, ziel)) return melden(stroeme, auf_sich_selbst, quelle.name);
-    if (umfeld.dateien.kopieren(quelle.pfad, ziel, Dauer::fluechtig))
+    const fs::path von = umfeld.dateien.host(quelle.pfad), nach = umfeld.dateien.host(ziel);
+    if (dieselbe_datei(von, nach)) return melden(stroeme, auf_sich_selbst, quelle.name);
+    if (umfeld.dateien.host_kopieren(von, nach, Dauer::fluechtig))
         return melden(stroeme, u8"Die Datei konnte nicht kopiert werden"_w, quelle.name);
     std::error_code fehler;
-    const auto zeit = fs::last_write_time(umfeld.dateien.host(quelle.pfad), fehler);
-    if (!fehler) fs::last_write_time(umfeld.dateien.host(ziel), zeit, fehler);
+    const auto zeit = fs::last_write_time(von, fehler);
+    if (!fehler) fs::last_write_time(nach, zeit, fehler);
     return true;
 }
 
@@ -45,11 +52,12 @@ bool eine_kopieren(const Umfeld& umfeld, const Stroeme& stroeme, const Fund& que
 bool zusammenfuegen(const Umfeld& umfeld, const Stroeme& stroeme, const std::vector<Fund>& quellen,
                     std::string_view ziel)
 {
-    if (quellen.size() == 1 && dieselbe_datei(umfeld, quellen[0].pfad, ziel))
-        return melden(stroeme, auf_sich_selbst, quellen[0].name);
+    const fs::path nach = umfeld.dateien.host(ziel);
+    const auto ist_ziel = [&](const Fund& quelle) { return dieselbe_datei(umfeld.dateien.host(quelle.pfad), nach); };
+    if (quellen.size() == 1 && ist_ziel(quellen[0])) return melden(stroeme, auf_sich_selbst, quellen[0].name);
     std::string text;
     for (const auto& quelle : quellen) {
-        if (dieselbe_datei(umfeld, quelle.pfad, ziel)) continue;
+        if (ist_ziel(quelle)) continue;
         const auto inhalt = umfeld.dateien.lesen(quelle.pfad);
         if (!inhalt) return melden(stroeme, u8"Die Datei konnte nicht gelesen werden"_w, quelle.name);
         text += std::string_view(*inhalt).substr(0, inhalt->find(textende));
@@ -74,7 +82,7 @@ bool eine_loeschen(const Umfeld& umfeld, const Stroeme& stroeme, const Fund& fun
 bool muster_loeschen(const Umfeld& umfeld, const Stroeme& stroeme, const std::string& name, const Parameter& angaben)
 {
     std::string pfad = umfeld.voll(name);
-    if (umfeld.dateien.ist_ordner(pfad)) pfad = pfad_verbinden(pfad, "*");
+    if (ist_ordner(umfeld, pfad)) pfad = pfad_verbinden(pfad, "*");
     const auto funde = dateien_finden(umfeld.dateien, pfad);
     if (funde.empty()) return melden(stroeme, nicht_gefunden, name);
     const bool fragen = ist_alles(pfad_name(pfad)) && !angaben.hat("q");
@@ -88,8 +96,7 @@ bool muster_loeschen(const Umfeld& umfeld, const Stroeme& stroeme, const std::st
 std::vector<Fund> umzubenennende(const Umfeld& umfeld, const std::string& name)
 {
     const std::string pfad = umfeld.voll(name);
-    if (!hat_platzhalter(pfad_name(pfad)) && umfeld.dateien.ist_ordner(pfad) && !ist_wurzel(pfad))
-        return {{pfad, std::string(pfad_name(pfad))}};
+    if (ist_ordner(umfeld, pfad) && !ist_wurzel(pfad)) return {{pfad, std::string(pfad_name(pfad))}};
     return dateien_finden(umfeld.dateien, pfad);
 }
 
@@ -117,7 +124,7 @@ bool befehl_copy(Umfeld& umfeld, const Stroeme& stroeme, std::string_view text)
     const Parameter angaben = parameter(text);
     if (angaben.namen.empty() || angaben.namen.size() > 2) return melden(stroeme, falsche_anzahl);
     std::string muster = umfeld.voll(angaben.namen[0]);
-    if (umfeld.dateien.ist_ordner(muster)) muster = pfad_verbinden(muster, "*");
+    if (ist_ordner(umfeld, muster)) muster = pfad_verbinden(muster, "*");
     const auto quellen = dateien_finden(umfeld.dateien, muster);
     if (quellen.empty()) return melden(stroeme, nicht_gefunden, angaben.namen[0]);
 

@@ -1,6 +1,8 @@
 // Finding and starting the programs and batch files that a command word means.
 #pragma once
 
+#include <sys/stat.h>
+
 #include <chrono>
 #include <filesystem>
 #include <optional>
@@ -18,10 +20,28 @@ struct Programm {
     bool ist_batch = false;
 };
 
-/// Looks a command word up, without regard to case: a word with a path only there, else in the current directory and
-/// then in the folders of the search path in order; in each with the extensions .COM .EXE .BAT .CMD, and then without
-/// one as programs of this host are named. A word that ends in .EXE also means the program of that stem.
-std::optional<Programm> programm_finden(const Umfeld& umfeld, std::string_view wort);
+/// Looks command words up. The program folders of a host are long and seldom change, so the names of a folder are kept
+/// and read again when the folder has changed.
+class Programmsuche {
+public:
+    /// Without regard to case: a word with a path only there, else in the current directory and then in the folders of
+    /// the search path in order; in each with the extensions .COM .EXE .BAT .CMD, and then without one as programs of
+    /// this host are named. A word that ends in .EXE also means the program of that stem.
+    std::optional<Programm> finden(const Umfeld& umfeld, std::string_view wort);
+
+private:
+    struct Liste {
+        dev_t geraet = 0;
+        ino_t nummer = 0;
+        timespec geaendert{};
+        bool in_ruhe = false;  // the last change was so long before the reading that each later one shows
+        std::string namen;     // UTF-8, each ends in NUL
+    };
+    std::optional<Programm> in_ordner(const Umfeld& umfeld, std::string_view ordner, std::string_view wort);
+    const std::string& namen_in(const std::string& ort, const struct stat& zustand);
+
+    std::vector<Liste> m_listen;
+};
 
 struct Startauftrag {
     std::filesystem::path programm;

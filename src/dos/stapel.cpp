@@ -6,7 +6,6 @@
 #include "dos/befehle.h"
 #include "dos/codepage_850.h"
 #include "dos/platzhalter.h"
-#include "dos/programm.h"
 #include "dos/umlenkung.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
@@ -155,7 +154,7 @@ bool Stapel::programm_starten(std::string_view text, const Stroeme& stroeme)
 {
     const std::string wort = wort_nehmen(text);
     if (ist_laufwerk(wort)) return laufwerk_wechseln(m_umfeld, stroeme, wort);
-    const auto programm = programm_finden(m_umfeld, wort);
+    const auto programm = m_programmsuche.finden(m_umfeld, wort);
     if (!programm) {
         m_umfeld.errorlevel = 9009;
         return melden(stroeme, u8"Befehl oder Programm nicht gefunden"_w, wort);

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "dos/programm.h"
 #include "dos/umfeld.h"
 #include "dos/zeile.h"
 
@@ -29,6 +30,7 @@ private:
     bool springen(std::string_view text, const Stroeme& stroeme);
 
     Umfeld& m_umfeld;
+    Programmsuche m_programmsuche;
     std::vector<std::string> m_zeilen;
     std::vector<std::string> m_argumente;  // begins with the name of the batch file
     std::size_t m_naechste = 0;

@@ -235,14 +235,18 @@ std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view b
 
 std::error_code Dateisystem::kopieren(std::string_view von, std::string_view nach, Dauer dauer) const
 {
-    const auto quelle = m_laufwerke.host(von), ziel = m_laufwerke.host(nach);
-    if (!quelle || !ziel) return kein_laufwerk();
+    return host_kopieren(host(von), host(nach), dauer);
+}
+
+std::error_code Dateisystem::host_kopieren(const fs::path& quelle, const fs::path& ziel, Dauer dauer) const
+{
+    if (quelle.empty() || ziel.empty()) return kein_laufwerk();
     std::error_code fehler;
-    if (fs::equivalent(*quelle, *ziel, fehler) && !fehler) return {};
-    const Abbild bild(*quelle, fehler);
+    if (fs::equivalent(quelle, ziel, fehler) && !fehler) return {};
+    const Abbild bild(quelle, fehler);
     if (fehler) return fehler;
     Dateistufe stufe;
-    return ersetzen(link_ziel(*ziel), bild.text(), dauer, stufe);
+    return ersetzen(link_ziel(ziel), bild.text(), dauer, stufe);
 }
 
 std::error_code Dateisystem::loeschen(std::string_view pfad) const

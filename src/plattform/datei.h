@@ -78,6 +78,9 @@ public:
     /// Copies a file, replacing the target whole. A file copied onto itself stays as it is.
     [[nodiscard]] std::error_code kopieren(std::string_view von, std::string_view nach,
                                            Dauer dauer = Dauer::fest) const;
+    /// The same for paths of the host that `host` has given.
+    [[nodiscard]] std::error_code host_kopieren(const std::filesystem::path& von, const std::filesystem::path& nach,
+                                                Dauer dauer = Dauer::fest) const;
     /// Deletes a file, also a read-only one.
     [[nodiscard]] std::error_code loeschen(std::string_view pfad) const;
 

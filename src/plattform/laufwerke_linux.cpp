@@ -1,5 +1,9 @@
+#include <dirent.h>
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 
 #include "plattform/laufwerke.h"
 #include "plattform/pfad.h"
@@ -11,10 +15,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool gibt_es(const fs::path& pfad)
+bool gibt_es(const std::string& pfad)
 {
-    std::error_code fehler;
-    return fs::symlink_status(pfad, fehler).type() != fs::file_type::not_found && !fehler;
+    struct stat zustand {};
+    return ::lstat(pfad.empty() ? "." : pfad.c_str(), &zustand) == 0;
+}
+
+std::string verbunden(std::string ordner, std::string_view name_1252)
+{
+    if (!ordner.empty() && ordner.back() != '/') ordner += '/';
+    return ordner += utf8_aus_1252(name_1252);
 }
 
 std::string_view ohne_schluss(std::string_view name)
@@ -30,6 +40,24 @@ std::string_view wort_nehmen(std::string_view& rest)
     const auto wort = rest.substr(0, ende);
     rest.remove_prefix(ende == std::string_view::npos ? rest.size() : ende + 1);
     return wort;
+}
+
+// The entry of a folder that equals the name without regard to case, the first in order; empty when there is none. Most
+// entries are dismissed by their first letter, before anything is converted.
+std::string aehnlicher(const std::string& ordner, std::string_view name)
+{
+    std::string bester;
+    if (name.empty()) return bester;
+    const std::unique_ptr<DIR, int (*)(DIR*)> offen(::opendir(ordner.empty() ? "." : ordner.c_str()), ::closedir);
+    const char erstes = klein(name.front());
+    for (const dirent* e = offen ? ::readdir(offen.get()) : nullptr; e; e = ::readdir(offen.get())) {
+        const std::string_view utf8 = e->d_name;
+        const bool ascii = static_cast<unsigned char>(utf8.front()) < 0x80;
+        if (utf8.size() < name.size() || (ascii && klein(utf8.front()) != erstes)) continue;
+        const auto text = text_aus_utf8(utf8);
+        if (text && gleich_ohne_gross(*text, name) && (bester.empty() || utf8 < bester)) bester = utf8;
+    }
+    return bester;
 }
 
 }  // namespace
@@ -64,18 +92,11 @@ bool Laufwerke::hat_laufwerk(std::string_view laufwerk) const
 
 std::optional<fs::path> Laufwerke::eintrag(const fs::path& ordner, std::string_view name)
 {
-    const auto genau = ordner / utf8_aus_1252(name);
+    const std::string genau = verbunden(ordner.native(), name);
     if (gibt_es(genau)) return genau;
-    std::optional<std::string> bester;
-    std::error_code fehler;
-    for (fs::directory_iterator lauf(ordner.empty() ? "." : ordner, fehler), ende; !fehler && lauf != ende;
-         lauf.increment(fehler)) {
-        const std::string utf8 = lauf->path().filename().string();
-        const auto text = text_aus_utf8(utf8);
-        if (text && gleich_ohne_gross(*text, name) && (!bester || utf8 < *bester)) bester = utf8;
-    }
-    if (!bester) return std::nullopt;
-    return ordner / *bester;
+    const std::string anderer = aehnlicher(ordner.native(), name);
+    if (anderer.empty()) return std::nullopt;
+    return ordner / anderer;
 }
 
 std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const
@@ -109,11 +130,22 @@ std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const
     } else if (!rest.empty() && (rest.front() == '\\' || rest.front() == '/')) {
         pfad = "/";
     }
-    // The usual case: every name stands on the disk as it is written.
-    fs::path genau = pfad;
-    for (std::string_view r = rest; !r.empty();)
-        if (const auto wort = wort_nehmen(r); !wort.empty()) genau /= utf8_aus_1252(wort);
+    // The usual case: every name stands on the disk as it is written, or only the last one is new.
+    std::string genau = pfad.native(), ordner;
+    std::string_view letztes;
+    for (std::string_view r = rest; !r.empty();) {
+        const auto wort = wort_nehmen(r);
+        if (wort.empty()) continue;
+        ordner = genau;
+        letztes = wort;
+        genau = verbunden(std::move(genau), wort);
+    }
     if (gibt_es(genau)) return genau;
+    const bool nur_letztes = ohne_schluss(letztes) == letztes && gibt_es(ordner);
+    if (nur_letztes) {
+        const std::string anderer = aehnlicher(ordner, letztes);
+        return anderer.empty() ? fs::path(std::move(genau)) : fs::path(std::move(ordner)) / anderer;
+    }
     while (!rest.empty()) {
         const auto wort = wort_nehmen(rest);
         if (wort.empty()) continue;

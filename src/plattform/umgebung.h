@@ -1,6 +1,7 @@
 // What the running program finds around it: its own folder, the folders of the user, programs by name, process numbers.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -23,5 +24,9 @@ std::filesystem::path system_ordner();
 
 /// The program of that name beside the running program, else in PATH; empty when there is none.
 std::filesystem::path programm_finden(const std::string& name);
+
+/// A folder for files of about `bytes` altogether that live for one call: in memory where the system offers that and
+/// has ample room (Linux, unless TMPDIR names another), else the folder for temporary files.
+std::filesystem::path zwischenordner(std::uintmax_t bytes);
 
 }  // namespace jorv

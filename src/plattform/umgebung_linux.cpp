@@ -74,4 +74,14 @@ fs::path programm_finden(const std::string& name)
     return {};
 }
 
+fs::path zwischenordner(std::uintmax_t bytes)
+{
+    constexpr const char* speicher = "/dev/shm";
+    constexpr std::uintmax_t hoechstens = 256 << 20;
+    std::error_code fehler;
+    const bool hier = umgebung("TMPDIR").empty() && bytes <= hoechstens && ::access(speicher, W_OK | X_OK) == 0 &&
+                      fs::space(speicher, fehler).available >= 2 * bytes && !fehler;
+    return hier ? fs::path(speicher) : fs::temp_directory_path(fehler);
+}
+
 }  // namespace jorv

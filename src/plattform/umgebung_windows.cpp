@@ -67,4 +67,10 @@ fs::path programm_finden(const std::string& name)
     return n > 0 ? fs::path(std::wstring(puffer, n)) : fs::path{};
 }
 
+fs::path zwischenordner(std::uintmax_t)
+{
+    std::error_code fehler;
+    return fs::temp_directory_path(fehler);
+}
+
 }  // namespace jorv

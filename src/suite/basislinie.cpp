@@ -193,6 +193,8 @@ bool Lauf::auftrag_fuellen()
     std::error_code fehler_basis, fehler_rover;
     m_auftrag.basis_text = m_ordner.lesen(m_basis.name, fehler_basis);
     m_auftrag.rover_text = m_ordner.lesen(m_rover.name, fehler_rover);
+    m_auftrag.basis_datei = m_ordner.host(m_basis.name);
+    m_auftrag.rover_datei = m_ordner.host(m_rover.name);
     if (fehler_basis || fehler_rover) return abbruch("Die Beobachtungsdateien sind nicht mehr lesbar!");
     // A virtual station's type names no year while a batch works on it; its navigation file has the rover's.
     const std::string basis = verkettet(stamm(m_basis.name), rechts(m_rover.name, 4));

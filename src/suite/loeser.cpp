@@ -7,6 +7,7 @@
 
 #include "plattform/prozess.h"
 #include "plattform/text.h"
+#include "plattform/umgebung.h"
 #include "plattform/zahl.h"
 
 namespace jorv::suite {
@@ -175,9 +176,12 @@ Loeser::Loeser(const Loeserumgebung& umgebung, const Loeserauftrag& auftrag) : m
         m_hindernis = "Das Rechenprogramm rnx2rtkp wurde nicht gefunden (Debian-Paket rtklib)!";
         return;
     }
-    m_ordner = neuer_ordner(umgebung.zwischenordner);
-    const bool gut = !m_ordner.empty() && ablegen("rover.obs", auftrag.rover_text.text()) &&
-                     ablegen("base.obs", auftrag.basis_text.text()) && ablegen("brdc.nav", auftrag.navigation_text) &&
+    // The solver writes about three times what it reads.
+    const auto gelesen = auftrag.rover_text.text().size() + auftrag.basis_text.text().size();
+    m_ordner = neuer_ordner(zwischenordner(8 * gelesen + (std::uintmax_t{8} << 20)));
+    const bool gut = !m_ordner.empty() && bereitlegen("rover.obs", auftrag.rover_text, auftrag.rover_datei) &&
+                     bereitlegen("base.obs", auftrag.basis_text, auftrag.basis_datei) &&
+                     ablegen("brdc.nav", auftrag.navigation_text) &&
                      ablegen("antex.atx", antex_fuer_loeser(auftrag.rover_antenne, auftrag.basis_antenne));
     if (!gut) m_hindernis = u8"Der Zwischenordner für das Rechenprogramm konnte nicht angelegt werden!"_w;
 }
@@ -188,16 +192,28 @@ Loeser::~Loeser()
     if (!m_ordner.empty()) fs::remove_all(m_ordner, fehler);
 }
 
+// With line ends of LF alone.
 bool Loeser::ablegen(const char* name, std::string_view text) const
 {
-    std::ofstream datei(m_ordner / name, std::ios::binary);
-    // With line ends of LF alone.
+    std::string ohne;
+    ohne.reserve(text.size());
     while (!text.empty()) {
         const auto stelle = std::min(text.find('\r'), text.size());
-        datei.write(text.data(), static_cast<std::streamsize>(stelle));
+        ohne.append(text.substr(0, stelle));
         text.remove_prefix(std::min(stelle + 1, text.size()));
     }
+    std::ofstream datei(m_ordner / name, std::ios::binary);
+    datei.write(ohne.data(), static_cast<std::streamsize>(ohne.size()));
     return static_cast<bool>(datei.flush());
+}
+
+// A file whose lines end in LF already is only linked to.
+bool Loeser::bereitlegen(const char* name, const Abbild& bild, const fs::path& datei) const
+{
+    std::error_code fehler;
+    const bool verweis = bild.text().find('\r') == std::string_view::npos;
+    if (verweis) fs::create_symlink(fs::absolute(datei, fehler), m_ordner / name, fehler);
+    return (verweis && !fehler) || ablegen(name, bild.text());
 }
 
 Loeserlauf Loeser::rechnen(Laufart art) const

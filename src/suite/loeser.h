@@ -1,6 +1,7 @@
 #pragma once
-// Runs the solver rnx2rtkp on two observation files: a private folder with copies under plain names, an option file, no
-// shell, a time limit. The solver's exit status says nothing; whether there is a solution shows in its files alone.
+// Runs the solver rnx2rtkp on two observation files: a private folder that shows them under plain names, an option
+// file, no shell, a time limit. The solver's exit status says nothing; whether there is a solution shows in its files
+// alone.
 
 #include <filesystem>
 #include <optional>
@@ -23,7 +24,8 @@ std::string_view laufname(Laufart art);
 
 /// What all runs of one baseline have in common.
 struct Loeserauftrag {
-    Abbild rover_text, basis_text;  // the files, with line ends of either kind
+    Abbild rover_text, basis_text;                   // the files, with line ends of either kind
+    std::filesystem::path rover_datei, basis_datei;  // where they lie
     std::string navigation_text;
     RinexKopf rover, basis;  // antenna offsets, base coordinate
     std::optional<Antennenblock> rover_antenne, basis_antenne;
@@ -42,7 +44,6 @@ std::string optionsdatei(const Loeserauftrag& auftrag, Laufart art);
 struct Loeserumgebung {
     std::filesystem::path programm;  // empty: not found
     int sekunden = 600;
-    std::filesystem::path zwischenordner = std::filesystem::temp_directory_path();
 };
 
 struct Loeserlauf {
@@ -66,6 +67,7 @@ public:
 
 private:
     bool ablegen(const char* name, std::string_view text) const;
+    bool bereitlegen(const char* name, const Abbild& bild, const std::filesystem::path& datei) const;
 
     const Loeserumgebung& m_umgebung;
     const Loeserauftrag& m_auftrag;

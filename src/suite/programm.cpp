@@ -1,5 +1,9 @@
 #include "suite/programm.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 #include <cstdio>
 
 #include "plattform/text.h"
@@ -11,6 +15,16 @@
 #endif
 
 namespace jorv::suite {
+
+void speicher_behalten()
+{
+#ifdef __GLIBC__
+    constexpr int viel = 64 << 20;
+    ::mallopt(M_MMAP_THRESHOLD, viel);
+    ::mallopt(M_TRIM_THRESHOLD, viel);
+    ::mallopt(M_TOP_PAD, 1 << 20);
+#endif
+}
 
 std::optional<Worte> worte(int anzahl, const char* const* argumente)
 {

@@ -9,6 +9,10 @@
 
 namespace jorv::suite {
 
+/// For a program that lives some milliseconds: memory that one step gives back stays for the next one instead of going
+/// to the system and coming from there anew.
+void speicher_behalten();
+
 /// The words behind the program's name; nothing when one can't be held in Windows-1252.
 std::optional<Worte> worte(int anzahl, const char* const* argumente);
 

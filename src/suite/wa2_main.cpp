@@ -8,6 +8,7 @@
 int main(int anzahl, char** argumente)
 {
     using namespace jorv;
+    suite::speicher_behalten();
     suite::Protokoll protokoll;
     std::string grund(suite::FREMDE_ZEICHEN);
     const auto worte = suite::worte(anzahl, argumente);

@@ -8,6 +8,7 @@
 int main(int anzahl, char** argumente)
 {
     using namespace jorv;
+    suite::speicher_behalten();
     suite::Protokoll protokoll;
     const suite::Arbeitsordner ordner;
     std::string grund(suite::FREMDE_ZEICHEN);

@@ -12,14 +12,26 @@ bool hat_platzhalter(std::string_view name)
     return name.find_first_of("*?") != std::string_view::npos;
 }
 
+namespace {
+
+// A quick no for most names of a folder: the first or the last character is a plain one and differs.
+bool kann_passen(std::string_view muster, std::string_view name)
+{
+    if (muster.empty() || name.empty()) return true;
+    const auto gleich = [](char m, char n) { return m == '*' || m == '?' || m == '.' || klein(m) == klein(n); };
+    return gleich(muster.front(), name.front()) && gleich(muster.back(), name.back());
+}
+
+}  // namespace
+
 bool passt(std::string_view muster, std::string_view name)
 {
+    if (!kann_passen(muster, name)) return false;
     // rest[k]: the pattern behind the place looked at fits the name from k on. Walked from the pattern's end, so
     // that the time stays the product of both lengths whatever stands in them.
-    std::vector<char> rest(name.size() + 1, 0);
+    std::vector<char> rest(name.size() + 1, 0), neu(name.size() + 1, 0);
     rest[name.size()] = 1;
     for (std::size_t m = muster.size(); m-- > 0;) {
-        std::vector<char> neu(name.size() + 1, 0);
         const char zeichen = muster[m];
         const bool lockerer_punkt = zeichen == '.' && m + 1 < muster.size() && hat_platzhalter(muster.substr(m + 1, 1));
         for (std::size_t k = name.size() + 1; k-- > 0;) {

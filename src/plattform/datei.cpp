@@ -284,14 +284,9 @@ std::vector<Ordnereintrag> Dateisystem::ordner_lesen(std::string_view pfad) cons
 {
     std::vector<Ordnereintrag> eintraege;
     const auto ort = m_laufwerke.host(pfad);
-    std::error_code fehler;
     if (!ort) return eintraege;
-    for (fs::directory_iterator lauf(ort->empty() ? fs::path(".") : *ort, fehler), ende; !fehler && lauf != ende;
-         lauf.increment(fehler)) {
-        std::error_code ohne;
-        if (const auto name = text_aus_utf8(utf8(lauf->path().filename())))
-            eintraege.push_back({*name, lauf->is_directory(ohne)});
-    }
+    for (const auto& eintrag : Laufwerke::inhalt(*ort))
+        if (auto name = text_aus_utf8(eintrag.name)) eintraege.push_back({std::move(*name), eintrag.ordner});
     std::sort(eintraege.begin(), eintraege.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
     return eintraege;
 }

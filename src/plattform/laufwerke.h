@@ -37,6 +37,13 @@ public:
     /// first.
     static std::optional<std::filesystem::path> eintrag(const std::filesystem::path& ordner, std::string_view name);
 
+    struct Inhalt {
+        std::string name;  ///< UTF-8
+        bool ordner = false;
+    };
+    /// What lies in a folder of the host ("" is the current one), in no order; a link counts as what it leads to.
+    static std::vector<Inhalt> inhalt(const std::filesystem::path& ordner);
+
 private:
     struct Zuordnung {
         std::string dos;  // lower case, no "\" at the end

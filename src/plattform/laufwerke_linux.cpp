@@ -42,13 +42,20 @@ std::string_view wort_nehmen(std::string_view& rest)
     return wort;
 }
 
+using Ordner = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+Ordner ordner_oeffnen(const std::string& ordner)
+{
+    return {::opendir(ordner.empty() ? "." : ordner.c_str()), ::closedir};
+}
+
 // The entry of a folder that equals the name without regard to case, the first in order; empty when there is none. Most
 // entries are dismissed by their first letter, before anything is converted.
 std::string aehnlicher(const std::string& ordner, std::string_view name)
 {
     std::string bester;
     if (name.empty()) return bester;
-    const std::unique_ptr<DIR, int (*)(DIR*)> offen(::opendir(ordner.empty() ? "." : ordner.c_str()), ::closedir);
+    const Ordner offen = ordner_oeffnen(ordner);
     const char erstes = klein(name.front());
     for (const dirent* e = offen ? ::readdir(offen.get()) : nullptr; e; e = ::readdir(offen.get())) {
         const std::string_view utf8 = e->d_name;
@@ -97,6 +104,23 @@ std::optional<fs::path> Laufwerke::eintrag(const fs::path& ordner, std::string_v
     const std::string anderer = aehnlicher(ordner.native(), name);
     if (anderer.empty()) return std::nullopt;
     return ordner / anderer;
+}
+
+std::vector<Laufwerke::Inhalt> Laufwerke::inhalt(const fs::path& ordner)
+{
+    std::vector<Inhalt> liste;
+    const Ordner offen = ordner_oeffnen(ordner.native());
+    for (const dirent* e = offen ? ::readdir(offen.get()) : nullptr; e; e = ::readdir(offen.get())) {
+        const std::string_view name = e->d_name;
+        if (name == "." || name == "..") continue;
+        bool ist_ordner = e->d_type == DT_DIR;
+        if (e->d_type == DT_LNK || e->d_type == DT_UNKNOWN) {
+            struct stat zustand {};
+            ist_ordner = ::fstatat(::dirfd(offen.get()), e->d_name, &zustand, 0) == 0 && S_ISDIR(zustand.st_mode);
+        }
+        liste.push_back({std::string(name), ist_ordner});
+    }
+    return liste;
 }
 
 std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const

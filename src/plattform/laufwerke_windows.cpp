@@ -29,6 +29,18 @@ std::optional<fs::path> Laufwerke::eintrag(const fs::path& ordner, std::string_v
     return pfad;
 }
 
+std::vector<Laufwerke::Inhalt> Laufwerke::inhalt(const fs::path& ordner)
+{
+    std::vector<Inhalt> liste;
+    std::error_code fehler, ohne;
+    for (fs::directory_iterator lauf(ordner.empty() ? fs::path(".") : ordner, fehler), ende; !fehler && lauf != ende;
+         lauf.increment(fehler)) {
+        const auto name = lauf->path().filename().u8string();
+        liste.push_back({std::string(name.begin(), name.end()), lauf->is_directory(ohne)});
+    }
+    return liste;
+}
+
 std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const
 {
     return fs::path(reinterpret_cast<const char8_t*>(utf8_aus_1252(dos_pfad).c_str()));

@@ -178,7 +178,8 @@ Loeser::Loeser(const Loeserumgebung& umgebung, const Loeserauftrag& auftrag) : m
     }
     // The solver writes about three times what it reads.
     const auto gelesen = auftrag.rover_text.text().size() + auftrag.basis_text.text().size();
-    m_ordner = neuer_ordner(zwischenordner(8 * gelesen + (std::uintmax_t{8} << 20)));
+    const bool gegeben = !umgebung.zwischenordner.empty();
+    m_ordner = neuer_ordner(gegeben ? umgebung.zwischenordner : zwischenordner(8 * gelesen + (8u << 20)));
     const bool gut = !m_ordner.empty() && bereitlegen("rover.obs", auftrag.rover_text, auftrag.rover_datei) &&
                      bereitlegen("base.obs", auftrag.basis_text, auftrag.basis_datei) &&
                      ablegen("brdc.nav", auftrag.navigation_text) &&

@@ -44,6 +44,7 @@ std::string optionsdatei(const Loeserauftrag& auftrag, Laufart art);
 struct Loeserumgebung {
     std::filesystem::path programm;  // empty: not found
     int sekunden = 600;
+    std::filesystem::path zwischenordner = {};  // empty: chosen by the size of the files
 };
 
 struct Loeserlauf {

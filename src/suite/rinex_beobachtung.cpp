@@ -272,6 +272,8 @@ bool Leser::epoche(std::string_view z, const Epochenzeile& e)
     if (!benutzt || m_satelliten.empty()) return true;
     m_ziel.epochen.push_back(
         {e.zeit, e.kennung, erste, m_ziel.messungen.size() - erste, std::string(spalten(z, 68, 12))});
+    // What comes behind the window is not wanted, and a step back in time would be passed over.
+    m_abgebrochen = m_fenster && m_fenster->bis < e.zeit;
     return true;
 }
 

@@ -324,11 +324,16 @@ void fremde_zuordnen(Global& g)
 
 }  // namespace
 
-void automatik(Global& g)
+void zuordnen(Global& g)
 {
     if (g.OBS_R.anzahl() == 0) g.Begruendungen.clear();
     if (g.OBS_R.anzahl() > 0 && ist_E_oder_S(g)) Zuordnung(g).ausfuehren();
     if (g.OBS_R.anzahl() > 0 && ist_F(g)) fremde_zuordnen(g);
+}
+
+void automatik(Global& g)
+{
+    zuordnen(g);
     baum_aufbauen(g);
 }
 

@@ -11,4 +11,7 @@ namespace jorv {
 /// An array that can't grow shows its message; the tree is rebuilt all the same.
 void automatik(Global& g);
 
+/// The same without the tree.
+void zuordnen(Global& g);
+
 }  // namespace jorv

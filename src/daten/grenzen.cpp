@@ -123,6 +123,14 @@ Fehler grafik_grenzen_laden(Global& g)
     return Fehler::keiner;
 }
 
+void m_grafik_grenzen(Global& g)
+{
+    g.Grenzen.assign(1, g.Grenzen == "1" ? '0' : '1');
+    if (g.Grenzen == "1" && ist_fehler(grafik_grenzen_laden(g))) g.Grenzen.assign(1, '0');
+    g.oberflaeche->karte_zeichnen(true);
+    g.oberflaeche->menue_erneuern();
+}
+
 Fehler grenzen_machen(Global& g, std::string_view listentext)
 {
     Zeilenleser zeilen(listentext);

@@ -12,6 +12,10 @@ namespace jorv {
 /// failure. Failure has shown its message.
 Fehler grafik_grenzen_laden(Global& g);
 
+/// The menu command: turns the borders of the map over, reads them when they go on, and draws the map anew. After an
+/// abort or a failure they are off.
+void m_grafik_grenzen(Global& g);
+
 /// Makes the border file from plain lines "Typ Rechtswert Hochwert" (metres; empty lines are passed over). A bad line
 /// shows its message, and the old file stays.
 Fehler grenzen_machen(Global& g, std::string_view listentext);

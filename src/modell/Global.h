@@ -79,6 +79,7 @@ struct Global {
     std::string Typkalibrierung = "N", Gesamtbatch = "N";
     std::string Hinweis = "1", Hinweis1 = "1", Grenzen = "1", PKZ = "1", ErstStart = "0";
     std::array<std::string, 8> KNOTEN = {"1", "1", "1", "1", "1", "1", "1", "1"};  ///< slots 1 to 7 in use
+    bool vergroessert = false;  ///< the map was enlarged once, so that there is something to make smaller
     Feld<TOREL_Punkt_Satz> TOREL_Punkt;
     Feld<Lnd_Satz> Lnd;
     Feld<std::int16_t> tage;  ///< distinct day numbers of the observation records, ascending

@@ -99,6 +99,10 @@ bool fehlerprotokoll(const Global& g)
 {
     return im_projekt_vorhanden(g, ".ERR");
 }
+bool verkleinern(const Global& g)
+{
+    return g.vergroessert;
+}
 bool zeiten(const Global& g)
 {
     return g.tage.anzahl() > 0;
@@ -171,7 +175,7 @@ std::vector<Gruppe> menueleiste(const Global& g)
               {"m_grund_editor", editor_text(g)}}},
             {"G&rafik",
              {{"m_grafik_orginal", text(u8"&Orginalgröße"_w)},
-              {"m_grafik_verkleinern", text(u8"&Verkleinerung um ½"_w)},
+              {"m_grafik_verkleinern", text(u8"&Verkleinerung um ½"_w), verkleinern},
               {"m_grafik_grenzen", "&Grenzen einblenden", immer, immer, haken_grenzen},
               {"m_grafik_ablage", "in &Zwischenablage kopieren"},
               {"m_grafik_pkz", "&PKZ einblenden", immer, immer, haken_pkz},

@@ -30,7 +30,7 @@ std::string kontext(const Global& g, const std::string& knoten, const std::strin
 
 constexpr std::string_view immer_vorn = "datei_neu datei_laden ", ende = "datei_ende ", editor = "grund_editor ",
                            grafik =
-                               "grafik_orginal grafik_verkleinern grafik_grenzen "
+                               "grafik_orginal grafik_grenzen "
                                "grafik_ablage grafik_pkz ",
                            immer_hinten = "protkoll_editieren hilfe_handbuch hilfe_neuerungen ";
 
@@ -76,6 +76,8 @@ TEST(Menue, FolgtVerfahrenModusUndDateien)
     EXPECT_FALSE(menueeintrag(menue_setzen(e.g), "m_wasoft_run_n")->an);
     EXPECT_TRUE(menueeintrag(menue_setzen(e.g), "m_wasoft_runa")->an);
     e.g.Gesamtbatch = "J";
+    e.g.vergroessert = true;
+    EXPECT_TRUE(menueeintrag(menue_setzen(e.g), "m_grafik_verkleinern")->an);
     e.g.Zeitfenster_1h = "1";
     EXPECT_TRUE(menueeintrag(menue_setzen(e.g), "m_wasoft_batch")->sichtbar);
     EXPECT_TRUE(menueeintrag(menue_setzen(e.g), "m_grund_zeitfenster_1h")->Haken);

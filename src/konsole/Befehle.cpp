@@ -11,9 +11,10 @@ std::span<const Befehl* const> alle_befehle()
 {
     static const std::vector<const Befehl*> alle = [] {
         std::vector<const Befehl*> liste;
-        for (const auto gruppe : {befehle_verfahren(), befehle_import(), befehle_dateien(), befehle_planung(),
-                                  befehle_rover(), befehle_einstellen(), befehle_zeiten(), befehle_auswertung(),
-                                  befehle_basis(), befehle_folge(), befehle_katalog(), befehle_hilfe()})
+        for (const auto gruppe :
+             {befehle_verfahren(), befehle_import(), befehle_dateien(), befehle_planung(), befehle_rover(),
+              befehle_einstellen(), befehle_zeiten(), befehle_karte(), befehle_auswertung(), befehle_basis(),
+              befehle_folge(), befehle_katalog(), befehle_hilfe()})
             for (const Befehl& befehl : gruppe) liste.push_back(&befehl);
         return liste;
     }();

@@ -16,6 +16,7 @@ std::span<const Befehl> befehle_planung();
 std::span<const Befehl> befehle_einstellen();
 std::span<const Befehl> befehle_rover();
 std::span<const Befehl> befehle_zeiten();
+std::span<const Befehl> befehle_karte();
 std::span<const Befehl> befehle_auswertung();
 std::span<const Befehl> befehle_basis();
 std::span<const Befehl> befehle_folge();

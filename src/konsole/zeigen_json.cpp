@@ -240,6 +240,7 @@ constexpr Eintrag eintraege[] = {
     {"X_max", Teil::kopf, [](const Global& g) { return Json(g.X_max); }},
     {"Faktor", Teil::kopf, [](const Global& g) { return Json(g.Faktor); }},
     {"Grafik_Fenster_gelesen", Teil::kopf, [](const Global& g) { return Json(g.Grafik_Fenster_gelesen); }},
+    {"vergroessert", Teil::kopf, [](const Global& g) { return flagge(g.vergroessert); }},
     {"vollstaendig_gelesen", Teil::kopf, [](const Global& g) { return Json(g.vollstaendig_gelesen); }},
     {"ungelesene_Sektionen", Teil::kopf, [](const Global& g) { return reihe(g.ungelesene_Sektionen); }},
     {"geo_fertig", Teil::kopf, [](const Global& g) { return flagge(g.geo_fertig); }},

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "konsole/Ergebnis.h"
+#include "auswertung/ergebniszeile.h"
 #include "konsole/Tabelle.h"
 #include "plattform/datei.h"
 #include "plattform/text.h"

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "dos/codepage_850.h"
 #include "dos/stapel.h"
+#include "plattform/codepage_850.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"

@@ -4,9 +4,9 @@
 #include <unistd.h>
 
 #include "dos/befehle.h"
-#include "dos/codepage_850.h"
 #include "dos/platzhalter.h"
 #include "dos/umlenkung.h"
+#include "plattform/codepage_850.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "dos/codepage_850.h"
+#include "plattform/codepage_850.h"
 #include "plattform/text.h"
 
 extern char** environ;

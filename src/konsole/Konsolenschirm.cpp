@@ -92,9 +92,9 @@ bool Konsolenschirm::im_editor_oeffnen(std::string_view pfad)
 std::error_code Konsolenschirm::im_fenster_starten(const Fensterstart& start)
 {
     m_meldungen << std::flush;
-    auto [fehler, abwarten] = fenster_starten(start, Fensterausgabe::fehlerausgabe);
-    if (abwarten) m_fenster.push_back(std::move(abwarten));
-    return fehler;
+    auto gestartet = fenster_starten(start, Fensterausgabe::fehlerausgabe);
+    if (gestartet.abwarten) m_fenster.push_back(std::move(gestartet.abwarten));
+    return gestartet.fehler;
 }
 
 void Konsolenschirm::fenster_abwarten()

@@ -38,26 +38,35 @@ Fensterstart programm_start(const Dateisystem& dateien, std::string_view program
     return start;
 }
 
-Gestartet fenster_starten(const Fensterstart& start, Fensterausgabe ausgabe)
+std::optional<Fensterstart> editor_start(const Dateisystem& dateien, std::string_view editor, std::string_view datei)
 {
-    if (start.programm.empty()) return {std::make_error_code(std::errc::no_such_file_or_directory), {}};
+    Fensterstart start;
+    start.programm = ist_dos_pfad(editor) ? dateien.host(editor) : programm_finden(utf8_aus_1252(editor));
+    start.argumente = {utf8_aus_1252(datei)};
+    start.ordner = dateien.host(pfad_ordner(datei));
+    return start;
+}
+
+Gestartet fenster_starten(const Fensterstart& start, Fensterausgabe ausgabe, const std::filesystem::path&)
+{
+    if (start.programm.empty()) return {.fehler = std::make_error_code(std::errc::no_such_file_or_directory)};
     std::wstring zeile = L"\"" + start.programm.wstring() + L"\"";
     for (const auto& wort : start.argumente) zeile += L" \"" + breit(wort) + L"\"";
-    const bool fenster = ausgabe == Fensterausgabe::fenster;
+    const bool fenster = ausgabe != Fensterausgabe::fehlerausgabe;
     STARTUPINFOW auskunft{};
     auskunft.cb = sizeof auskunft;
     PROCESS_INFORMATION kind{};
     if (CreateProcessW(nullptr, zeile.data(), nullptr, nullptr, fenster ? FALSE : TRUE,
                        fenster ? CREATE_NEW_CONSOLE : 0, nullptr, start.ordner.empty() ? nullptr : start.ordner.c_str(),
                        &auskunft, &kind) == 0)
-        return {std::error_code(static_cast<int>(GetLastError()), std::system_category()), {}};
+        return {.fehler = std::error_code(static_cast<int>(GetLastError()), std::system_category())};
     CloseHandle(kind.hThread);
     const HANDLE prozess = kind.hProcess;
     if (!fenster)
-        return {{}, [prozess] {
-                    WaitForSingleObject(prozess, INFINITE);
-                    CloseHandle(prozess);
-                }};
+        return {.abwarten = [prozess] {
+            WaitForSingleObject(prozess, INFINITE);
+            CloseHandle(prozess);
+        }};
     CloseHandle(prozess);
     return {};
 }

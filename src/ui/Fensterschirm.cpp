@@ -2,6 +2,8 @@
 
 #include <QMessageBox>
 
+#include "plattform/fensterstart.h"
+#include "ui/Ausgabefenster.h"
 #include "ui/Betrachter.h"
 #include "ui/Fortschrittsfeld.h"
 #include "ui/frmHauptform.h"
@@ -10,9 +12,6 @@
 namespace jorv {
 
 namespace {
-
-// The editor of the settings that means the program's own viewer.
-constexpr std::string_view eigener_betrachter = "Notepad.exe";
 
 QMessageBox::Icon bild(Symbol symbol)
 {
@@ -134,7 +133,14 @@ bool Fensterschirm::im_editor_oeffnen(std::string_view pfad)
 {
     if (!m_hauptform) return false;
     const Global& g = m_hauptform->g();
-    return gleich_ohne_gross(g.Editor, eigener_betrachter) && Betrachter::zeigen(g.dateien, std::string(pfad));
+    const auto start = editor_start(g.dateien, g.Editor, pfad);
+    if (!start) return Betrachter::zeigen(g.dateien, std::string(pfad));
+    return !fenster_starten(*start, Fensterausgabe::fenster).fehler;
+}
+
+std::error_code Fensterschirm::im_fenster_starten(const Fensterstart& start)
+{
+    return Ausgabefenster::starten(start);
 }
 
 std::optional<Dateiwahl> Fensterschirm::dateien_waehlen(Dateiart, std::string_view)

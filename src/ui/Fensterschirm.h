@@ -31,6 +31,7 @@ public:
     void sanduhr(bool an) override;
     void piepen() override;
     bool im_editor_oeffnen(std::string_view pfad) override;
+    std::error_code im_fenster_starten(const Fensterstart& start) override;
     std::optional<Dateiwahl> dateien_waehlen(Dateiart art, std::string_view verzeichnis) override;
     std::optional<Verfahrenswahl> neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer) override;
 

@@ -10,7 +10,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "dos/codepage_850.h"
+#include "plattform/codepage_850.h"
 #include "plattform/prozess.h"
 #include "plattform/text.h"
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "dos/codepage_850.h"
+#include "plattform/codepage_850.h"
 #include "plattform/text.h"
 
 namespace jorv::dos {

@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 #include "hilfen/Projekt.h"
+#include "plattform/fensterstart.h"
 #include "plattform/pfad.h"
 #include "plattform/umgebung.h"
 
@@ -57,6 +58,23 @@ TEST(Prozess, EinKindDasRohreOffenLaesstHaeltNichtAuf)
     const auto ende = programm_ausfuehren(skript(ordner, "sleep 30 & exit 3"), {}, ordner.host(), 20);
     EXPECT_EQ(ende.status, 3);
     EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(15));
+}
+
+TEST(Fensterstart, DerEditorIstDerEigeneEinPfadOderEinName)
+{
+    const hilfen::Arbeitsordner ordner;
+    const Dateisystem dateien;
+    const fs::path programm = skript(ordner, "cp \"$1\" gelesen");
+    const std::string dos = dateien.laufwerke().dos(programm).value();
+    const std::string datei = ordner.dos() + "\\kind";
+    EXPECT_FALSE(editor_start(dateien, "notepad.EXE", datei));
+    EXPECT_EQ(editor_start(dateien, "sh", datei)->programm.filename(), "sh");
+    EXPECT_TRUE(editor_start(dateien, "gibt-es-nicht", datei)->programm.empty());
+    EXPECT_EQ(editor_start(dateien, programm.string(), datei)->programm, programm);
+    const auto start = editor_start(dateien, dos, datei);
+    ASSERT_FALSE(fenster_starten(*start, Fensterausgabe::fenster).fehler);
+    for (int i = 0; i < 500 && !fs::exists(ordner.host() / "gelesen"); ++i) ::usleep(10'000);
+    EXPECT_TRUE(fs::exists(ordner.host() / "gelesen"));
 }
 
 }  // namespace jorv

@@ -1,11 +1,11 @@
-#include "dos/codepage_850.h"
+#include "plattform/codepage_850.h"
 
 #include <array>
 #include <cstddef>
 
 #include "plattform/text.h"
 
-namespace jorv::dos {
+namespace jorv {
 
 namespace {
 
@@ -78,4 +78,4 @@ std::string nach_850(std::string_view text)
     return gewandelt(text, her);
 }
 
-}  // namespace jorv::dos
+}  // namespace jorv

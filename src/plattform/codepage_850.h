@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace jorv::dos {
+namespace jorv {
 
 /// Windows-1252 of a code page 850 text. The turn is one to one: all characters of both pages keep their meaning, the
 /// 31 frame and block signs that Windows-1252 lacks take its bytes that code page 850 lacks, so nach_850 brings every
@@ -14,4 +14,4 @@ std::string aus_850(std::string_view bytes);
 /// The way back.
 std::string nach_850(std::string_view text);
 
-}  // namespace jorv::dos
+}  // namespace jorv

@@ -4,6 +4,7 @@
 
 #include "plattform/pfad.h"
 #include "plattform/text.h"
+#include "plattform/umgebung.h"
 
 namespace jorv {
 

@@ -148,6 +148,23 @@ Fehler katalog_lesen(Global& g)
     return Fehler::keiner;
 }
 
+// Fails unless memory knows every station of the file. Behind a damaged line it doesn't, and the file must stay as it
+// is.
+Fehler ganz_bekannt(Global& g)
+{
+    const std::string pfad = exe_datei(g, katalog_name);
+    if (!g.dateien.vorhanden(pfad)) return Fehler::keiner;
+    const Gelesen datei = g.dateien.lesen_stufenweise(pfad);
+    if (!datei.gut()) return datei.stufe == Dateistufe::oeffnen ? nicht_offen(g) : lesefehler(g);
+    Zeilenleser zeilen(datei.text);
+    while (const auto chiffre = zeilen.naechste()) {
+        int fehler = 0;
+        const std::string klar = krypt(*chiffre, Kryptmodus::dechiffrieren, fehler);
+        if (fehler != 0 || (!klar.empty() && index_von(g, wort_finden(klar, 1).text) == 0)) return lesefehler(g);
+    }
+    return Fehler::keiner;
+}
+
 // Writes the file and words its failure; `schreibfehler` is the text of a write that went wrong.
 Fehler katalog_schreiben(Global& g, std::string_view bytes, std::string_view schreibfehler)
 {
@@ -233,18 +250,19 @@ Fehler torel_grund_neu(Global& g, std::string_view PKZ, double X, double Y, doub
         const TOREL_Punkt_Satz punkt{std::string(PKZ), ascii_umschrift(Name), Rechtswert, Hochwert, X, Y, Z};
         if (!g.TOREL_Punkt.anfuegen(punkt))
             return nicht_dimensioniert(g, 38, "torel_grund_neu", preserve(g.TOREL_Punkt.anzahl() + 1));
-        return station_anhaengen(g, punkt);
+        return ist_fehler(ganz_bekannt(g)) ? Fehler::gesetzt : station_anhaengen(g, punkt);
     }
     auto& punkt = g.TOREL_Punkt[i];
     if (punkt.X == X && punkt.Y == Y && punkt.Z == Z) return Fehler::keiner;
     punkt.X = X, punkt.Y = Y, punkt.Z = Z;
     punkt.Rechtswert = Rechtswert, punkt.Hochwert = Hochwert;
-    return alle_schreiben(g);
+    return ist_fehler(ganz_bekannt(g)) ? Fehler::gesetzt : alle_schreiben(g);
 }
 
 Fehler torel_punkt_entfernen(Global& g, int index)
 {
     if (index < 1 || index > g.TOREL_Punkt.anzahl()) return Fehler::gesetzt;
+    if (ist_fehler(ganz_bekannt(g))) return Fehler::gesetzt;
     const auto& weg = g.TOREL_Punkt[index];
     const std::string text = verkettet(
         u8"Achtung!\n\nDer ausgewählte Punkt: "_w, weg.PKZ, weg.Name.empty() ? "" : verkettet(" (", weg.Name, ") "),

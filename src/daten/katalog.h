@@ -15,7 +15,8 @@ Fehler torel_coo_laden(Global& g);
 
 /// Adds a station or replaces the coordinates of a known one (which keeps its name), in memory and in the file. A
 /// station that is there with the same coordinates changes nothing. Failure has shown its message; the file then holds
-/// what it held before.
+/// what it held before. A file that holds stations which could not be read is never written: the new one is known in
+/// memory alone.
 Fehler torel_grund_neu(Global& g, std::string_view PKZ, double X, double Y, double Z, double Rechtswert,
                        double Hochwert, std::string_view Name);
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "konsole/zeigen.h"
+#include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "planung/einstellungen_rover.h"
 #include "plattform/text.h"
@@ -42,15 +43,20 @@ std::string verfehlung(std::string_view wort, std::int64_t minuten, std::int64_t
                      in_minuten ? " min" : " s");
 }
 
-std::string urteil_text(const Dateiurteil& u)
+// A foreign station may stand where the rover stands: its distance is told also when it is 0.
+std::string fremde_text(const Dateiurteil& u)
+{
+    constexpr std::int64_t stunde = 60;
+    return verkettet(", Strecke ", fest(u.Strecke, 0), " m, ", zahl_text(static_cast<double>(u.Minuten_Laenge)),
+                     " min lang", u.Minuten_Laenge < stunde ? u8" (kürzer als 60 min)"_w : "");
+}
+
+std::string urteil_text(const Dateiurteil& u, bool fremd)
 {
     std::string text = verkettet("    ", u.TOREL_Dateiname, u.genommen ? "  genommen" : "  nicht genommen",
                                  verfehlung(u8"beginnt zu spät um"_w, u.Minuten_vorher, u.Sekunden_vorher),
                                  verfehlung(u8"endet zu früh um"_w, u.Minuten_nachher, u.Sekunden_nachher));
-    if (u.Strecke > 0)
-        text += verkettet(", Strecke ", fest(u.Strecke, 0), " m, ", zahl_text(static_cast<double>(u.Minuten_Laenge)),
-                          " min lang");
-    return text + "\n";
+    return verkettet(text, fremd ? fremde_text(u) : "", "\n");
 }
 
 std::string figur_text(const Global& g, const Begruendung& b)
@@ -81,9 +87,27 @@ std::string_view pruefung_text(Pruefung pruefung)
     return pruefungen.at(static_cast<std::size_t>(pruefung));
 }
 
+// In mode F the rover's light is the image that it has in the tree.
+std::string_view ampel_text(const Global& g, int i)
+{
+    constexpr int aus = 9;
+    const int bild = rover_bild(g, i);
+    return bild == aus ? "-" : ampel_text(static_cast<std::uint8_t>(bild));
+}
+
+std::string_view grund_fremd(const Global& g, int i)
+{
+    const bool ohne = i <= g.ROVER_VIRT.anzahl() && g.ROVER_VIRT[i].VIRT_Index == 0;
+    return ohne ? pruefung_text(Pruefung::keine_fremde) : std::string_view{};
+}
+
 std::string zuordnung_text(const Global& g, int i)
 {
     std::string text = g.OBS_R[i].Dateiname;
+    if (ist_F(g)) {
+        const std::string_view warum = grund_fremd(g, i);
+        return verkettet(text, ": ", ampel_text(g, i), warum.empty() ? "" : ", ", warum, "\n");
+    }
     if (i <= g.ROVER_TOREL.anzahl()) {
         const auto& zeile = g.ROVER_TOREL[i];
         text += verkettet(": ", ampel_text(zeile.Status));
@@ -98,7 +122,7 @@ std::string begruendung_text(const Global& g, int i)
     if (static_cast<std::size_t>(i) > g.Begruendungen.size()) return text;
     const Begruendung& b = g.Begruendungen[static_cast<std::size_t>(i - 1)];
     text += figur_text(g, b);
-    for (const auto& urteil : b.Dateien) text += urteil_text(urteil);
+    for (const auto& urteil : b.Dateien) text += urteil_text(urteil, ist_F(g));
     for (const Pruefung schritt : b.Schritte) text += verkettet("  - ", pruefung_text(schritt), "\n");
     if (!b.abweichende_Datei.empty()) text += verkettet("  abweichende Datei: ", b.abweichende_Datei, "\n");
     text += verkettet("  Beobachtung des ROVER: ", zahl_text(static_cast<double>(b.Minuten_ROVER)), " min\n");

@@ -69,8 +69,12 @@ std::string rover_text(const Global& g)
             if (!stationen.empty()) zeile[4] = stationen;
             if (zeile[5].empty() && s.Status > 1) zeile[5] = grund_text(s.Status, s.Grund);
         }
-        if (ist_F(g) && i <= g.ROVER_VIRT.anzahl())
-            zeile[4] = verkettet(g.ROVER_VIRT[i].VIRT_Dateiname, " (", fest(g.ROVER_VIRT[i].Strecke, 0), " m)");
+        if (ist_F(g) && i <= g.ROVER_VIRT.anzahl()) {
+            const auto& s = g.ROVER_VIRT[i];
+            zeile[1] = ampel_text(g, i);
+            if (s.VIRT_Index != 0) zeile[4] = verkettet(s.VIRT_Dateiname, " (", fest(s.Strecke, 0), " m)");
+            if (zeile[5].empty()) zeile[5] = grund_fremd(g, i);
+        }
         t.zeile(std::move(zeile));
     }
     return "ROVER\n" + t.text();

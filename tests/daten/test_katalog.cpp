@@ -115,6 +115,18 @@ TEST(Katalog, LadefehlerUndWasBleibt)
         EXPECT_TRUE(ist_fehler(torel_coo_laden(s.g)));
         EXPECT_EQ(s.schirm.einzige(), f.meldung + "\n" + s.dos() + ende);
         EXPECT_EQ(s.g.TOREL_Punkt.anzahl(), 1);
+
+        // What stands behind the damage is not lost by what would write the file.
+        const std::string bytes = lesen(s.datei());
+        const auto bleibt = [&](Fehler fehler) {
+            EXPECT_TRUE(ist_fehler(fehler));
+            EXPECT_TRUE(s.schirm.texte().back().starts_with("Lesefehler in der Datei:"));
+            EXPECT_EQ(lesen(s.datei()), bytes);
+        };
+        bleibt(torel_grund_neu(s.g, "0590", 1, 2, 3, 4, 5, ""));
+        bleibt(torel_punkt_entfernen(s.g, 1));
+        bleibt(torel_grund_neu(s.g, "0592", 1, 2, 3, 4, 5, ""));
+        EXPECT_EQ(s.g.TOREL_Punkt.anzahl(), 2);
     }
     Katalogstand s;
     const std::string lesefehler =

@@ -105,11 +105,13 @@ TEST(Ganz_SchlechteEingabe, KaputterKatalogWirdGemeldetUndLaesstSichErsetzen)
         schreiben(katalog, bytes);
         const auto lauf = platz.jorv({"katalog", "zeigen"});
         EXPECT_THAT(lauf.err, HasSubstr("STOP")) << bytes.size();
-        // A station that can't be found may be taken in as a new one, but not unasked.
-        Worte ohne_neue = beobachtungen;
-        ohne_neue.emplace_back("--nein");
-        (void)platz.jorv(ohne_neue);
-        EXPECT_EQ(lesen(katalog), bytes);
+        // A station that can't be found may be taken in as a new one; the file stays as it is, to be mended.
+        for (const char* antwort : {"--nein", "--ja"}) {
+            Worte neue = beobachtungen;
+            neue.emplace_back(antwort);
+            (void)platz.jorv(neue);
+            EXPECT_EQ(lesen(katalog), bytes);
+        }
         platz.gut({"katalog", "machen", "beispiel/katalog.txt"});
         EXPECT_EQ(lesen(katalog), ganz);
         unversehrt(platz, platz.host("verfahren"), "catalogue");

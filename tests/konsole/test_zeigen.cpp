@@ -133,6 +133,26 @@ TEST(ZeigenText, RoverMitAmpelZuordnungUndGrund)
         EXPECT_THAT(text, HasSubstr(stueck));
 }
 
+TEST(ZeigenText, FremdeStationenUndWarumEineNichtReicht)
+{
+    Beispiel p;
+    p.g.Verfahrensmodus = "3";
+    (void)p.g.ROVER_VIRT.anfuegen({"5501167j.16o", "?", 0, 0});
+    Begruendung b;
+    b.Dateien = {{"virt5501167j.16o", "virt", false, 0, 0, 0, 0, 20, 0}};
+    b.Schritte = {Pruefung::keine_fremde};
+    p.g.Begruendungen = {b};
+    const std::string_view grund = "keine fremde Referenzstation deckt den ROVER mit einer Stunde ab";
+    const std::string warum = utf8_aus_1252(begruendung_text(p.g, 1));
+    EXPECT_THAT(warum, HasSubstr(verkettet("5501167j.16o: rot, ", grund)));
+    EXPECT_THAT(warum, HasSubstr("nicht genommen, Strecke 0 m, 20 min lang (kürzer als 60 min)"));
+    EXPECT_THAT(teil_text(p.g, Teil::rover), HasSubstr(grund));
+    p.g.ROVER_VIRT[1] = {"5501167j.16o", "virt5501167j.16o", 1, 0};
+    EXPECT_THAT(utf8_aus_1252(teil_text(p.g, Teil::rover)), HasSubstr("grün"));
+    p.g.ROVER_Settings[1].Ein_Ausschalterkennung = 0;
+    EXPECT_THAT(teil_text(p.g, Teil::rover), testing::AllOf(HasSubstr("  -  "), HasSubstr("aus")));
+}
+
 TEST(ZeigenText, BegruendungNenntFigurDateienUndPruefung)
 {
     const Beispiel p;

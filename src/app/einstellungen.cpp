@@ -40,6 +40,9 @@ constexpr std::array<Textschluessel, 7> start_hinten = {{{"Form_zustand", &Globa
                                                          {"Grenzen", &Global::Grenzen},
                                                          {"ErstStart", &Global::ErstStart},
                                                          {"PKZ", &Global::PKZ}}};
+// How the window is divided: of this program's own, in a section of its own.
+constexpr std::array<Textschluessel, 2> fenster = {
+    {{"Baumbreite", &Global::Fenster_Baumbreite}, {"Werkzeugleiste", &Global::Fenster_Werkzeugleiste}}};
 // Only the user or an installer changes these: read, never written.
 constexpr std::array<Textschluessel, 5> nur_gelesen = {{{"UTM-Zone", &Global::UTM_Zone},
                                                         {"MARKER-Info", &Global::MARKER_Info},
@@ -128,6 +131,7 @@ Fehler ini_lesen_START(Global& g)
     for (const auto& eintrag : start_fenster)
         if (const auto zahl = ganz_streng(profil.wert("START", eintrag.schluessel))) g.*eintrag.feld = *zahl;
     texte_lesen(g, profil, "START", start_hinten);
+    texte_lesen(g, profil, "FENSTER", fenster);
     uebernehmen(g.Datei_Verzeichnis, profil.wert(grundeinstellungen, "Datei-Verzeichnis"));
     uebernehmen(g.EXE_Verzeichnis, profil.wert(grundeinstellungen, "EXE-Verzeichnis"));
     const auto bereiche = profil.wert(grundeinstellungen, "Nummernbereich KOR-Antennen");
@@ -152,6 +156,7 @@ Fehler ini_schreiben_START(Global& g)
     for (const auto& liste : listen)
         for (int n = 1; n <= 8; ++n)
             profil.setzen(liste.sektion, verkettet(n), (g.*liste.feld)[static_cast<std::size_t>(n - 1)]);
+    for (const auto& eintrag : fenster) profil.setzen("FENSTER", eintrag.schluessel, g.*eintrag.feld);
     Verfahrensliste_eintragen(g, profil);
     return profil.schreiben(g.dateien, g.Einstellungsdatei) ? nicht_geschrieben(g) : Fehler::keiner;
 }

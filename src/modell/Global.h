@@ -68,6 +68,7 @@ struct Global {
     std::string Bestaetigung = "J", Editor = "Notepad.exe";
     std::int32_t Form_top = 0, Form_left = 0, Form_height = 0, Form_width = 0;
     std::string Form_zustand = "0";
+    std::string Fenster_Baumbreite = "300", Fenster_Werkzeugleiste = "1";  ///< pixels; "0" hidden, "1" shown
     std::string Programmverzeichnis;  ///< folder of the running program
     std::string Datei_Verzeichnis, EXE_Verzeichnis;
     Feld<Verfahren_Satz> Verfahren;
@@ -89,6 +90,7 @@ struct Global {
     struct {
         bool m_datei_loeschen = false, m_datei_sichern = false, m_grund_zeitfenster_1h = false;
         bool m_grund_EinstellungenAlle = false;
+        bool m_geo_definieren = false;  ///< its tick, which only shows
     } menue;
 
     bool Verfahren_offen() const { return !Verfahrensname.empty(); }

@@ -125,6 +125,15 @@ bool haken_pkz(const Global& g)
     return g.PKZ == "1";
 }
 
+bool haken_definieren(const Global& g)
+{
+    return g.menue.m_geo_definieren;
+}
+bool haken_leiste(const Global& g)
+{
+    return g.Fenster_Werkzeugleiste == "1";
+}
+
 struct Eintrag {
     std::string name, text;
     Regel an = immer, sichtbar = immer, haken = kein_haken;
@@ -179,10 +188,13 @@ std::vector<Gruppe> menueleiste(const Global& g)
               {"m_grafik_grenzen", "&Grenzen einblenden", immer, immer, haken_grenzen},
               {"m_grafik_ablage", "in &Zwischenablage kopieren"},
               {"m_grafik_pkz", "&PKZ einblenden", immer, immer, haken_pkz},
+              {"m_grafik_alles", "&alles zeigen"},
+              {"m_grafik_speichern", "&Bild speichern..."},
+              {"m_grafik_leiste", "&Werkzeugleiste", immer, immer, haken_leiste},
               {"m_grafik_zeiten", text(u8"&Zeiten-Übersicht: Gesamtverfahren "_w), zeiten}}},
             {"Geo&metrie",
              {{"m_geo", "Geo&metrie", figuren},
-              {"m_geo_definieren", "Dreiecke/Vierecke &definieren", figuren, immer, kein_haken, "m_geo"},
+              {"m_geo_definieren", "Dreiecke/Vierecke &definieren", figuren, immer, haken_definieren, "m_geo"},
               {"m_geo_loeschen", text(u8"letzte Definition &löschen"_w), figuren, immer, kein_haken, "m_geo"}}},
             {"&Programme",
              {{"m_wasoft_run_n", text(u8"&WaSoft ausführen"_w), auswerten},

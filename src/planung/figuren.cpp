@@ -78,4 +78,10 @@ void m_geo_loeschen(Global& g)
     figuren_geaendert(g);
 }
 
+void m_geo_definieren(Global& g)
+{
+    g.menue.m_geo_definieren = !g.menue.m_geo_definieren;
+    g.oberflaeche->menue_erneuern();
+}
+
 }  // namespace jorv

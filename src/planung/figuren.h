@@ -12,4 +12,7 @@ void geo_markierung(Global& g, int Nummer);
 /// Takes the last figure away and runs automatik; without a figure it only says so.
 void m_geo_loeschen(Global& g);
 
+/// Turns the tick of its menu entry over, which nothing reads: figures are drawn by clicks at any time.
+void m_geo_definieren(Global& g);
+
 }  // namespace jorv

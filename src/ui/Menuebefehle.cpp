@@ -6,11 +6,13 @@
 #include "auswertung/lauf.h"
 #include "auswertung/protokolle.h"
 #include "daten/einfuegen.h"
+#include "daten/grenzen.h"
 #include "planung/figuren.h"
 #include "planung/zeitfenster.h"
 #include "plattform/zahl.h"
 #include "projekt/verfahren.h"
 #include "projekt/verfahren_loeschen.h"
+#include "ui/Kartenansicht.h"
 #include "ui/frmHauptform.h"
 
 namespace jorv {
@@ -22,6 +24,14 @@ template <auto routine>
 void kern(frmHauptform& form)
 {
     static_cast<void>(routine(form.g()));
+}
+
+// A command of the map, which has the port paint it.
+template <void (Karte::*routine)()>
+void karte(frmHauptform& form)
+{
+    (form.karte().karte().*routine)();
+    form.karte().erneuern();
 }
 
 struct Befehl {
@@ -36,6 +46,15 @@ constexpr std::array befehle = {
     Befehl{"m_datei_antenne", kern<m_datei_antenne>},
     Befehl{"m_datei_ende", [](frmHauptform& form) { form.close(); }},
     Befehl{"m_grund_zeitfenster_1h", kern<m_grund_zeitfenster_1h>},
+    Befehl{"m_grafik_orginal", karte<&Karte::m_grafik_orginal>},
+    Befehl{"m_grafik_verkleinern", karte<&Karte::m_grafik_verkleinern>},
+    Befehl{"m_grafik_alles", karte<&Karte::alles_zeigen>},
+    Befehl{"m_grafik_pkz", karte<&Karte::m_grafik_pkz>},
+    Befehl{"m_grafik_grenzen", kern<m_grafik_grenzen>},
+    Befehl{"m_grafik_ablage", [](frmHauptform& form) { form.karte_in_ablage(); }},
+    Befehl{"m_grafik_speichern", [](frmHauptform& form) { form.karte_speichern(); }},
+    Befehl{"m_grafik_leiste", [](frmHauptform& form) { form.leiste_umschalten(); }},
+    Befehl{"m_geo_definieren", kern<m_geo_definieren>},
     Befehl{"m_geo_loeschen", kern<m_geo_loeschen>},
     Befehl{"m_wasoft_run_n", [](frmHauptform& form) { static_cast<void>(m_wasoft_run_n(form.g())); }},
 };

@@ -15,31 +15,26 @@ struct Tastenkuerzel {
     const char* name;
     const char* taste;
 };
-constexpr std::array tastenkuerzel = {Tastenkuerzel{"m_datei_neu", "Ctrl+N"},
-                                      Tastenkuerzel{"m_datei_laden", "Ctrl+O"},
-                                      Tastenkuerzel{"m_datei_sichern", "Ctrl+S"},
-                                      Tastenkuerzel{"m_datei_importieren", "Ctrl+I"},
-                                      Tastenkuerzel{"m_datei_rinex", "Ctrl+R"},
-                                      Tastenkuerzel{"m_datei_antenne", "Ctrl+Shift+A"},
-                                      Tastenkuerzel{"m_datei_ende", "Ctrl+Q"},
-                                      Tastenkuerzel{"m_grund_EinstellungenAlle", "Ctrl+Shift+E"},
-                                      Tastenkuerzel{"m_grafik_orginal", "Ctrl+0"},
-                                      Tastenkuerzel{"m_grafik_verkleinern", "Ctrl+-"},
-                                      Tastenkuerzel{"m_grafik_ablage", "Ctrl+Shift+C"},
-                                      Tastenkuerzel{"m_grafik_grenzen", "Ctrl+G"},
-                                      Tastenkuerzel{"m_grafik_pkz", "Ctrl+K"},
-                                      Tastenkuerzel{"m_grafik_zeiten", "Ctrl+T"},
-                                      Tastenkuerzel{"m_wasoft_run_n", "F5"},
-                                      Tastenkuerzel{"m_protkoll_einsehen", "F6"},
-                                      Tastenkuerzel{"m_protkoll_kurz", "F7"},
-                                      Tastenkuerzel{"m_protkoll_kurz_aller", "F8"},
-                                      Tastenkuerzel{"m_hilfe_handbuch", "F1"}};
+constexpr std::array tastenkuerzel = {
+    Tastenkuerzel{"m_datei_neu", "Ctrl+N"},           Tastenkuerzel{"m_datei_laden", "Ctrl+O"},
+    Tastenkuerzel{"m_datei_sichern", "Ctrl+S"},       Tastenkuerzel{"m_datei_importieren", "Ctrl+I"},
+    Tastenkuerzel{"m_datei_rinex", "Ctrl+R"},         Tastenkuerzel{"m_datei_antenne", "Ctrl+Shift+A"},
+    Tastenkuerzel{"m_datei_ende", "Ctrl+Q"},          Tastenkuerzel{"m_grund_EinstellungenAlle", "Ctrl+Shift+E"},
+    Tastenkuerzel{"m_grafik_orginal", "Ctrl+0"},      Tastenkuerzel{"m_grafik_verkleinern", "Ctrl+-"},
+    Tastenkuerzel{"m_grafik_ablage", "Ctrl+Shift+C"}, Tastenkuerzel{"m_grafik_grenzen", "Ctrl+G"},
+    Tastenkuerzel{"m_grafik_pkz", "Ctrl+K"},          Tastenkuerzel{"m_grafik_zeiten", "Ctrl+T"},
+    Tastenkuerzel{"m_grafik_alles", "Ctrl+9"},        Tastenkuerzel{"m_wasoft_run_n", "F5"},
+    Tastenkuerzel{"m_protkoll_einsehen", "F6"},       Tastenkuerzel{"m_protkoll_kurz", "F7"},
+    Tastenkuerzel{"m_protkoll_kurz_aller", "F8"},     Tastenkuerzel{"m_hilfe_handbuch", "F1"}};
 
 // Entries that a line sets off from those above them.
 constexpr std::array trenner = {
-    "m_datei_rinex",     "m_datei_basis",   "m_datei_ende",        "m_dateien_verfahren(1)", "m_grund_editor",
-    "m_grafik_grenzen",  "m_grafik_ablage", "m_grafik_zeiten",     "m_wasoft_runa",          "m_wasoft_erstellen",
-    "m_basis_erstellen", "m_basis_esa",     "m_protkoll_editieren"};
+    "m_datei_rinex",      "m_datei_basis",     "m_datei_ende",    "m_dateien_verfahren(1)", "m_grund_editor",
+    "m_grafik_grenzen",   "m_grafik_ablage",   "m_grafik_leiste", "m_grafik_zeiten",        "m_wasoft_runa",
+    "m_wasoft_erstellen", "m_basis_erstellen", "m_basis_esa",     "m_protkoll_editieren"};
+
+constexpr std::array mit_haken = {"m_grund_zeitfenster_1h", "m_grafik_grenzen", "m_grafik_pkz", "m_grafik_leiste",
+                                  "m_geo_definieren"};
 
 template <typename Tabelle>
 bool enthaelt(const Tabelle& tabelle, const QString& name)
@@ -139,8 +134,7 @@ void Menueleiste::aufbauen(const std::vector<Menueeintrag>& menue)
             aktion->setIcon(befehlsbild(name));
             for (const auto& k : tastenkuerzel)
                 if (name == QLatin1String(k.name)) aktion->setShortcut(QKeySequence(QLatin1String(k.taste)));
-            aktion->setCheckable(name == QLatin1String("m_grund_zeitfenster_1h") ||
-                                 name == QLatin1String("m_grafik_grenzen") || name == QLatin1String("m_grafik_pkz"));
+            aktion->setCheckable(enthaelt(mit_haken, name));
             QObject::connect(aktion, &QAction::triggered, &m_leiste, [this, text = e.Name] { m_ausfuehren(text); });
         }
         ort->addAction(aktion);

@@ -1,6 +1,11 @@
 #include "ui/frmHauptform.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QSaveFile>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
@@ -8,14 +13,20 @@
 #include <algorithm>
 
 #include "app/start.h"
+#include "auswertung/baumbefehle.h"
+#include "daten/katalog.h"
+#include "karte/svg.h"
 #include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "planung/einstellungen_rover.h"
+#include "plattform/zahl.h"
+#include "projekt/titel.h"
 #include "projekt/verfahrensliste.h"
 #include "ui/Baumansicht.h"
 #include "ui/Bilder.h"
 #include "ui/Fensterschirm.h"
 #include "ui/Fortschrittsfeld.h"
+#include "ui/Kartenansicht.h"
 #include "ui/Menuebefehle.h"
 #include "ui/qtext.h"
 
@@ -67,6 +78,16 @@ std::string baumhinweis(const Global& g, std::string_view knoten)
     return ampel_bedeutung(g.ROVER_TOREL[rover].Status, g.ROVER_TOREL[rover].Grund);
 }
 
+// "R 572341 H 5712004" with thin spaces between groups of three digits.
+QString zeigertext_gruppiert(const QString& text)
+{
+    QStringList worte = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (auto& wort : worte)
+        for (qsizetype stelle = wort.size() - 3; stelle > 0 && wort[0].isDigit(); stelle -= 3)
+            wort.insert(stelle, QChar(0x2009));
+    return worte.join(QLatin1Char(' '));
+}
+
 QString tastenhinweis(const QAction* aktion)
 {
     QString text = aktion->text().remove(QLatin1Char('&')).remove(QStringLiteral("..."));
@@ -83,11 +104,9 @@ frmHauptform::frmHauptform(Global& g, Fensterschirm& schirm)
     setWindowIcon(programmbild());
     m_teiler = new QSplitter(Qt::Horizontal, this);
     tre_punkte = new Baumansicht(m_teiler);
-    pic_grafik = new QWidget(m_teiler);
-    pic_grafik->setObjectName(QStringLiteral("pic_grafik"));
+    pic_grafik = new Kartenansicht(g, m_teiler);
     m_teiler->setChildrenCollapsible(false);
     m_teiler->setStretchFactor(1, 1);
-    m_teiler->setSizes({300, 900});
     setCentralWidget(m_teiler);
     m_fortschritt = new Fortschrittsfeld(this);
     m_verfahren = new QLabel(this);
@@ -98,6 +117,7 @@ frmHauptform::frmHauptform(Global& g, Fensterschirm& schirm)
     statusBar()->addPermanentWidget(m_zeiger);
     leiste_anlegen();
     baum_verbinden();
+    karte_verbinden();
     m_schirm.hauptform_setzen(this);
     resize(1280, 800);
 }
@@ -140,16 +160,108 @@ void frmHauptform::baum_verbinden()
     tre_punkte->bei_klappen = [this](const std::string& schluessel, bool offen) {
         knoten_oeffnen(m_g, schluessel, offen);
     };
+    tre_punkte->bei_klick = [this](const std::string& knoten, const std::string& eltern) {
+        ausfuehren([&] { baumfolge(baum_klick(m_g, knoten, eltern), knoten); });
+    };
+    tre_punkte->bei_einstellungen = [this](const std::string& knoten, const std::string& eltern) {
+        baumbefehl("mnu_tree_settings", knoten, eltern);
+    };
+    tre_punkte->bei_kontext = [this](const std::string& knoten, const std::string& eltern, QPoint ort) {
+        kontextmenue_zeigen(knoten, eltern, ort);
+    };
+}
+
+void frmHauptform::karte_verbinden()
+{
+    pic_grafik->bei_zeiger = [this](const std::string& text) {
+        m_zeiger->setText(zeigertext_gruppiert(anzeige(text)));
+    };
+    pic_grafik->bei_station = [this](int station, QPoint ort) { stationsmenue_zeigen(station, ort); };
+}
+
+void frmHauptform::kontextmenue_zeigen(const std::string& knoten, const std::string& eltern, QPoint ort)
+{
+    QMenu menue;
+    const auto eintraege = kontextmenue(m_g, knoten, eltern);
+    QStringList texte;
+    for (const auto& e : eintraege) texte << anzeige(e.Text);
+    texte = eindeutige_tasten(texte);
+    for (const auto& e : eintraege) {
+        QAction* aktion = menue.addAction(texte.takeFirst());
+        aktion->setObjectName(anzeige(e.Name));
+        aktion->setEnabled(e.an);
+        aktion->setCheckable(e.Name == "mnu_tree_stop");
+        aktion->setChecked(e.Haken);
+    }
+    const QAction* gewaehlt = menue.exec(ort);
+    if (gewaehlt) baumbefehl(eingabe(gewaehlt->objectName()), knoten, eltern);
+}
+
+void frmHauptform::baumbefehl(const std::string& name, const std::string& knoten, const std::string& eltern)
+{
+    ausfuehren([&] { baumfolge(baum_befehl(m_g, name, knoten, eltern), knoten); });
+}
+
+void frmHauptform::baumfolge(const Baumfolge& folge, const std::string& knoten)
+{
+    if (folge.Punkte.empty()) return;
+    pic_grafik->karte().basislinie_markieren(knoten);
+    pic_grafik->erneuern();
+}
+
+void frmHauptform::stationsmenue_zeigen(int station, QPoint ort)
+{
+    QMenu menue;
+    for (const auto& e : Karte::mnu_hauptgrafik()) menue.addAction(anzeige(e.Text));
+    if (menue.exec(ort)) ausfuehren([&] { static_cast<void>(torel_punkt_entfernen(m_g, station)); });
+}
+
+void frmHauptform::karte_in_ablage()
+{
+    QApplication::clipboard()->clear();
+    QApplication::clipboard()->setImage(pic_grafik->bild(devicePixelRatioF()));
+}
+
+void frmHauptform::karte_speichern()
+{
+    QString filter;
+    QString pfad = QFileDialog::getSaveFileName(this, QStringLiteral("Karte als Bild speichern"), {},
+                                                QStringLiteral("PNG-Bild (*.png);;SVG-Zeichnung (*.svg)"), &filter);
+    if (pfad.isEmpty()) return;
+    if (QFileInfo(pfad).suffix().isEmpty())
+        pfad += filter.contains(QLatin1String("svg")) ? QStringLiteral(".svg") : QStringLiteral(".png");
+    QSaveFile datei(pfad);
+    bool gut = datei.open(QIODevice::WriteOnly);
+    if (gut && pfad.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+        const std::string text = svg(pic_grafik->karte().bild(), pic_grafik->width(), pic_grafik->height());
+        gut = datei.write(text.data(), static_cast<qint64>(text.size())) == static_cast<qint64>(text.size());
+    } else if (gut) {
+        gut = pic_grafik->bild(2).save(&datei, "PNG");
+    }
+    if (!gut || !datei.commit())
+        m_schirm.meldung(Symbol::stop,
+                         eingabe(QStringLiteral("Das Bild:\n%1\nkonnte nicht gespeichert werden!").arg(pfad)));
+}
+
+void frmHauptform::leiste_umschalten()
+{
+    m_leiste->setVisible(!m_leiste->isVisible());
+    m_g.Fenster_Werkzeugleiste = m_leiste->isVisible() ? "1" : "0";
 }
 
 // A command that is still at work can't be entered a second time from a nested event loop.
-void frmHauptform::befehl(const std::string& name)
+void frmHauptform::ausfuehren(const std::function<void()>& tun)
 {
     if (m_befehl_laeuft) return;
     m_befehl_laeuft = true;
-    menuebefehl_ausfuehren(*this, name);
+    tun();
     m_befehl_laeuft = false;
     menue_erneuern();
+}
+
+void frmHauptform::befehl(const std::string& name)
+{
+    ausfuehren([&] { menuebefehl_ausfuehren(*this, name); });
 }
 
 void frmHauptform::baum_erneuern()
@@ -158,9 +270,9 @@ void frmHauptform::baum_erneuern()
     statuszeile_erneuern();
 }
 
-void frmHauptform::karte_zeichnen(bool)
+void frmHauptform::karte_zeichnen(bool neu)
 {
-    pic_grafik->update();
+    pic_grafik->grafik_zeichnen(neu);
 }
 
 void frmHauptform::menue_erneuern()
@@ -180,11 +292,27 @@ void frmHauptform::menue_erneuern()
 void frmHauptform::titel_setzen(const QString& titel)
 {
     setWindowTitle(titel);
+    logo_erneuern();
     statuszeile_erneuern();
+}
+
+// The picture changes with the title; a missing one is told once a change, not at every call.
+void frmHauptform::logo_erneuern()
+{
+    const std::string gesucht = Logo_Datei(m_g);
+    if (gesucht == m_logo_datei) return;
+    m_logo_datei = gesucht;
+    const std::string pfad = Logo_laden(m_g);
+    QPixmap logo;
+    if (!pfad.empty()) logo.load(QString::fromStdString(m_g.dateien.host(pfad).string()));
+    pic_grafik->logo_setzen(logo);
 }
 
 void frmHauptform::statuszeile_erneuern()
 {
+    pic_grafik->hinweis_setzen(m_g.Verfahren_offen() ? QString()
+                                                     : QStringLiteral("Neues Verfahren anlegen: Strg+N  ·  "
+                                                                      "Verfahren öffnen: Strg+O"));
     if (!m_g.Verfahren_offen()) {
         m_verfahren->setText(QStringLiteral("Kein Verfahren geöffnet"));
         m_zaehler->clear();
@@ -213,6 +341,7 @@ void frmHauptform::closeEvent(QCloseEvent* ereignis)
         m_g.Form_zustand = zustand_normal;
         lage_merken();
     }
+    m_g.Fenster_Baumbreite = verkettet(m_teiler->sizes().value(0));
     const auto fenster = QApplication::topLevelWidgets();
     for (auto f = fenster.rbegin(); f != fenster.rend(); ++f)
         if (*f != this && (*f)->isVisible()) (*f)->close();
@@ -232,6 +361,9 @@ void frmHauptform::lage_merken()
 // A stored place on a screen that is gone would leave the window out of sight.
 void frmHauptform::lage_wiederherstellen()
 {
+    const int baum = std::clamp(ganz_streng(m_g.Fenster_Baumbreite).value_or(300), 120, 900);
+    m_teiler->setSizes({baum, std::max(1, width() - baum)});
+    m_leiste->setVisible(m_g.Fenster_Werkzeugleiste != "0");
     if (m_g.Form_zustand != zustand_normal) {
         setWindowState(m_g.Form_zustand == zustand_gross ? Qt::WindowMaximized : Qt::WindowMinimized);
         return;

@@ -18,6 +18,8 @@ namespace jorv {
 class Baumansicht;
 class Fensterschirm;
 class Fortschrittsfeld;
+class Kartenansicht;
+struct Baumfolge;
 
 class frmHauptform final : public QMainWindow {
 public:
@@ -30,6 +32,8 @@ public:
 
     Global& g() { return m_g; }
     Fortschrittsfeld& fortschritt() { return *m_fortschritt; }
+    Kartenansicht& karte() { return *pic_grafik; }
+    Baumansicht& baum() { return *tre_punkte; }
     /// The action of a menu entry; nullptr when there is none of that name.
     QAction* eintrag(const QString& name) const { return m_menue.eintrag(name); }
 
@@ -38,6 +42,13 @@ public:
     void karte_zeichnen(bool neu);
     void menue_erneuern();
     void titel_setzen(const QString& titel);
+
+    // Commands that only a window has.
+    void karte_in_ablage();
+    void karte_speichern();
+    void leiste_umschalten();
+    /// A command of the context menu of a node.
+    void baumbefehl(const std::string& name, const std::string& knoten, const std::string& eltern);
 
 protected:
     void closeEvent(QCloseEvent* ereignis) override;
@@ -48,7 +59,13 @@ private:
     void leiste_anlegen();
     void leiste_fuellen();
     void baum_verbinden();
+    void karte_verbinden();
     void befehl(const std::string& name);
+    void ausfuehren(const std::function<void()>& tun);
+    void baumfolge(const Baumfolge& folge, const std::string& knoten);
+    void kontextmenue_zeigen(const std::string& knoten, const std::string& eltern, QPoint ort);
+    void stationsmenue_zeigen(int station, QPoint ort);
+    void logo_erneuern();
     void lage_wiederherstellen();
     void lage_merken();
     void statuszeile_erneuern();
@@ -58,10 +75,11 @@ private:
     Menueleiste m_menue;
     Fortschrittsfeld* m_fortschritt;
     Baumansicht* tre_punkte;
-    QWidget* pic_grafik;
+    Kartenansicht* pic_grafik;
     QSplitter* m_teiler;
     QToolBar* m_leiste;
     QLabel *m_verfahren, *m_zaehler, *m_zeiger;
+    std::string m_logo_datei;
     bool m_aktiviert = false, m_befehl_laeuft = false;
 };
 

@@ -1,28 +1,17 @@
 // jorvplus: the workbench in its window.
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 #include "app/start.h"
 #include "modell/Global.h"
-#include "ui/Bilder.h"
+#include "ui/Anwendung.h"
 #include "ui/Fensterschirm.h"
 #include "ui/frmHauptform.h"
 
 int main(int anzahl, char** werte)
 {
-    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    jorv::anwendung_vorbereiten();
     QApplication app(anzahl, werte);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setApplicationName(QStringLiteral("jorvplus"));
-    QApplication::setDesktopFileName(QStringLiteral("jorvplus"));
-    QApplication::setWindowIcon(jorv::programmbild());
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    // The texts of the toolkit's own dialogs.
-    QTranslator deutsch;
-    if (deutsch.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&deutsch);
-
+    jorv::anwendung_einrichten();
     jorv::Fensterschirm schirm;
     const jorv::Systemuhr uhr;
     jorv::Global g(schirm, uhr, jorv::Dateisystem());

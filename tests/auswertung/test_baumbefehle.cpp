@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "auswertung/beispiel.h"
+#include "planung/handarbeit.h"
 #include "projekt/projektdatei_schreiben.h"
 
 namespace jorv {
@@ -107,6 +108,8 @@ TEST(Baumbefehle, KlickUndDialogeFolgenModusUndKnoten)
     Baumfolge folge = baum_klick(e.g, "5501092a.05o", wartende);
     EXPECT_TRUE(folge.dialog == Baumdialog::handarbeit && folge.frmhinweis && e.g.geo_fertig);
     EXPECT_FALSE(baum_klick(e.g, "5501092a.05o", berechnete).frmhinweis);
+    handarbeit_hinweis_ok(e.g, false);
+    EXPECT_FALSE(baum_klick(e.g, "5501092a.05o", wartende).frmhinweis);
     EXPECT_EQ(baum_befehl(e.g, "mnu_tree_settings", "5501092a.05o", wartende).dialog, Baumdialog::einstellungen);
     EXPECT_TRUE(ist_fehler(baum_befehl(e.g, "mnu_tree_dat_editieren", "5501092a.05o", wartende).fehler));
     EXPECT_EQ(e.schirm.einzige(), utf8_aus_1252(verkettet("Es existiert noch keine Datei: ", e.g.Arbeitsverzeichnis,

@@ -55,6 +55,12 @@ TEST(Baum, JederModusHatSeineHauptknoten)
         EXPECT_EQ(umriss(p.g.baum), erwartet);
         EXPECT_EQ(p.schirm.baum_erneuert, 1);
     }
+    Pruefstand p("3");
+    baum_aufbauen(p.g);
+    for (const char* zu : {"V_Datei", "S_Datei"}) knoten_oeffnen(p.g, zu, false);  // mode F lacks the second
+    EXPECT_EQ(p.g.KNOTEN[5] + p.g.KNOTEN[2], "01");
+    baum_aufbauen(p.g);
+    EXPECT_EQ(umriss(p.g.baum), "R_Datei+:; A_Datei+:; E_Datei+:; V_Datei-:; ");
 }
 
 TEST(Baum, BilderFolgenDerAmpelDemSchalterUndDenErgebnissen)

@@ -44,6 +44,15 @@ public:
         return true;
     }
 
+    /// Room for so many elements, so that growing up to them moves nothing; does nothing when there is none.
+    void platz_schaffen(int anzahl)
+    {
+        try {
+            m_werte.reserve(static_cast<std::size_t>(std::clamp(anzahl, 0, m_grenze)));
+        } catch (const std::bad_alloc&) {
+        }
+    }
+
     /// Takes one element out; the later ones move down.
     void entfernen(int i) { m_werte.erase(m_werte.begin() + static_cast<std::ptrdiff_t>(stelle(i))); }
     void leeren() { m_werte.clear(); }

@@ -129,7 +129,9 @@ Gelesen Dateisystem::lesen_stufenweise(std::string_view pfad, std::size_t hoechs
         if (n < 0) fehlernummer = errno;
         text.resize(alt + static_cast<std::size_t>(std::max(n, 0L)));
         if (n <= 0) break;
-        platz = std::min<std::size_t>(65536, hoechstens - text.size());
+        // The end is looked for in the room that is left: more would copy a large file's text once over.
+        const std::size_t frei = text.capacity() - text.size();
+        platz = std::min<std::size_t>(frei > 0 ? frei : 65536, hoechstens - text.size());
     }
     if (fehlernummer != 0) gelesen.stufe = Dateistufe::lesen;
     if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && gelesen.gut()) {

@@ -1,5 +1,6 @@
 #include "plattform/text.h"
 
+#include <array>
 #include <charconv>
 
 namespace jorv {
@@ -90,14 +91,26 @@ char gross(char byte)
     return byte;
 }
 
+namespace {
+
+// Looked up for each byte of each name that is compared.
+constexpr std::array<char, 256> kleine = [] {
+    std::array<char, 256> tabelle{};
+    for (unsigned code = 0; code < tabelle.size(); ++code) {
+        unsigned neu = code;
+        if ((code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7)) neu = code + 32;
+        if (code == 0x8A || code == 0x8C || code == 0x8E) neu = code + 16;
+        if (code == 0x9F) neu = 0xFF;
+        tabelle[code] = static_cast<char>(neu);
+    }
+    return tabelle;
+}();
+
+}  // namespace
+
 char klein(char byte)
 {
-    const auto code = static_cast<unsigned char>(byte);
-    if ((code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7))
-        return static_cast<char>(code + 32);
-    if (code == 0x8A || code == 0x8C || code == 0x8E) return static_cast<char>(code + 16);
-    if (code == 0x9F) return static_cast<char>(0xFF);
-    return byte;
+    return kleine[static_cast<unsigned char>(byte)];
 }
 
 std::string gross(std::string_view text)
@@ -118,7 +131,7 @@ bool gleich_ohne_gross(std::string_view a, std::string_view b)
 {
     if (a.size() != b.size()) return false;
     for (std::size_t i = 0; i < a.size(); ++i)
-        if (klein(a[i]) != klein(b[i])) return false;
+        if (a[i] != b[i] && klein(a[i]) != klein(b[i])) return false;
     return true;
 }
 

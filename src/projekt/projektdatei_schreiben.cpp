@@ -132,9 +132,9 @@ public:
     {
         if (bleibt(sektion)) return *this;
         int n = 1;
-        for (const auto& satz : feld) m_profil.setzen(sektion, verkettet(n++), zeile(satz));
-        for (std::string alt = verkettet(n); !m_profil.wert(sektion, alt).empty(); alt = verkettet(++n))
-            m_profil.setzen(sektion, alt, "");
+        const auto reihen = feld.anzahl() > 0 ? m_profil.reihen_anlegen(sektion) : m_profil.reihen(sektion);
+        for (const auto& satz : feld) m_profil.reihe_setzen(reihen, n++, zeile(satz));
+        for (; !m_profil.reihe(reihen, n).empty(); ++n) m_profil.reihe_setzen(reihen, n, "");
         return *this;
     }
 

@@ -115,9 +115,8 @@ void wachstum_melden(Global& g, const Sektionsart& art, int neu)
 
 std::string_view Reihenquelle::holen(int n, std::string& puffer) const
 {
-    const std::string schluessel = verkettet(n);
-    const std::string_view zeile =
-        m_art.ganze_werte ? m_profil.wert_ganz(m_art.sektion, schluessel) : m_profil.wert(m_art.sektion, schluessel);
+    const std::string_view ganz = m_profil.reihe(m_reihen, n);
+    const std::string_view zeile = m_art.ganze_werte ? ganz : Profil::gekuerzt(ganz);
     if (!m_art.komma_zu_punkt || zeile.find(',') == std::string_view::npos) return zeile;
     puffer = zeile;
     std::replace(puffer.begin(), puffer.end(), ',', '.');

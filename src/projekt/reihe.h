@@ -70,13 +70,19 @@ void wachstum_melden(Global& g, const Sektionsart& art, int neu);
 /// The rows of a section, one after the other.
 class Reihenquelle {
 public:
-    Reihenquelle(const Profil& profil, const Sektionsart& art) : m_profil(profil), m_art(art) {}
+    Reihenquelle(const Profil& profil, const Sektionsart& art)
+        : m_profil(profil), m_art(art), m_reihen(profil.reihen(art.sektion))
+    {
+    }
+    /// How many rows there are at most.
+    int anzahl() const { return m_reihen.anzahl; }
     /// The trimmed value of row n, commas turned (in the buffer) where the section wants it; empty behind the last row.
     std::string_view holen(int n, std::string& puffer) const;
 
 private:
     const Profil& m_profil;
     const Sektionsart& m_art;
+    Profil::Reihen m_reihen;
 };
 
 /// Empties the array and reads rows 1, 2, ... up to the first empty value. `satz_lesen(Reihe&, T&, zeile)` fills a
@@ -90,6 +96,7 @@ Fehler sektion_lesen(Global& g, const Profil& profil, const Sektionsart& art, Fe
         return Fehler::gesetzt;
     }
     const Reihenquelle quelle(profil, art);
+    feld.platz_schaffen(quelle.anzahl());
     std::string puffer;
     for (int n = 1;; ++n) {
         const std::string_view zeile = quelle.holen(n, puffer);

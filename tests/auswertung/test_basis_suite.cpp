@@ -18,6 +18,19 @@ namespace {
 constexpr double X = 4789013.0077, Y = 176610.1555, Z = 4195034.8091;
 constexpr double ost = -27.4170, nord = -26.2341, hoch = -0.0304;  // the published vector in the horizon of X, Y, Z
 
+// East and north in metres of a result row's end beside the published place of 5501.
+double lage_daneben(std::string_view reihe, double von_x, double von_y, double von_z)
+{
+    const GeographicLib::Geocentric erde(6378137, 1 / 298.257222101);
+    double breite = 0, laenge = 0, hoehe = 0, e = 0, n = 0, u = 0;
+    erde.Reverse(X, Y, Z, breite, laenge, hoehe);
+    const GeographicLib::LocalCartesian horizont(breite, laenge, hoehe, erde);
+    const auto wort = [reihe](int nummer) { return zahl_lesen(wort_finden(reihe, nummer).text) / 1000; };
+    erde.Reverse(von_x + wort(3), von_y + wort(4), von_z + wort(5), breite, laenge, hoehe);
+    horizont.Forward(breite, laenge, hoehe, e, n, u);
+    return std::hypot(e, n);
+}
+
 // Distance in metres between the published vector and that of a result row (mm).
 double abweichung(std::string_view reihe)
 {
@@ -38,11 +51,12 @@ struct Basisplatz : Arbeitsplatz {
         for (const auto& [alt, neu] : {std::pair{"upc10770.10o", "55010770.10o"},
                                        {"upc20770.10o", "55020770.10o"},
                                        {"upc10770.10o", "05830770.10o"},
+                                       {"garr0770.10o", "garr0770.10o"},
                                        {"brdc0770.10n", "brdc0770.10n"}})
             fs::copy_file(daten / alt, host("rinex") / neu);
         hilfen::schreiben(host("katalog.txt"), "0601 4833520.1197 41537.2015 4147461.6263 Ebre\n");
         hilfen::schreiben(host("grenzen.txt"), "2 -200000 4500000\n1 0 4700000\n");
-        hilfen::schreiben(host("paare.txt"), "5501 5502\r\n\r\n5502 5501 und mehr\r\n");
+        hilfen::schreiben(host("paare.txt"), "5501 5502\r\n\r\n5502 5501 und mehr\r\ngarr 5501\r\n");
         const std::string antennen = (daten.parent_path() / "antennen/igs08_auszug.atx").string();
         gut({"katalog", "machen", "katalog.txt"});
         gut({"grenzen", "machen", "grenzen.txt"});
@@ -61,7 +75,7 @@ struct Basisplatz : Arbeitsplatz {
     bool hat(std::string_view name) const { return fs::exists(host("linie") / std::string(name)); }
 };
 
-const std::string linie = "55010770.10o-55020770.10o";
+const std::string linie = "55010770.10o-55020770.10o", zwanzig_km = "garr0770.10o-55010770.10o";
 
 // Points, vector, deviations, correlations, day; only the session may follow.
 void mrk_pruefen(std::string_view reihe)
@@ -83,12 +97,15 @@ TEST(BasisMitSuite, von_der_liste_der_paare_bis_zur_ausgleichung)
     const fs::path daten = fs::path(JORV_DATEN) / "echt/katalonien2010";
     if (!fs::exists(daten / "upc10770.10o")) GTEST_SKIP() << "The real observations are missing: " << daten.string();
     const Basisplatz platz(daten);
-    EXPECT_EQ(platz.gut({"basislinien", "1", "paare.txt"}), linie + "\n");
+    EXPECT_EQ(platz.gut({"basislinien", "1", "paare.txt"}), linie + "\n" + zwanzig_km + "\n");
     platz.gut({"batch", "1", linie, "--emds"});
     EXPECT_NE(platz.datei("001.BAT").find(" +SE +FS001.EMD\r\n"), std::string::npos);
     EXPECT_NE(platz.gut({"auswerten", "1", "--emds"}).find(linie + "  FixedL1"), std::string::npos);
-    mrk_pruefen(platz.datei("jorv_out/export/001.MRK"));
-    EXPECT_EQ(platz.datei("jorv_out/export/001.EPO"), "55010770.10o 3600\r\n55020770.10o 3600\r\n");
+    const std::string mrk = platz.datei("jorv_out/export/001.MRK");
+    mrk_pruefen(mrk);
+    EXPECT_LT(lage_daneben(mrk.substr(mrk.find("garr")), 4796983.5767, 160309.1177, 4187340.3773), 0.025) << mrk;
+    EXPECT_EQ(platz.datei("jorv_out/export/001.EPO"),
+              "55010770.10o 3600\r\n55020770.10o 3600\r\ngarr0770.10o 2880\r\n");
     EXPECT_EQ(platz.datei("jorv_out/export/001.SIG").rfind("5501 5502 18.03.2010 ", 0), 0u);
     EXPECT_EQ(platz.datei("jorv_out/export/001.AMB").rfind("5501 5502 18.03.2010", 0), 0u);
     for (const char* name : {"export/001.TEM", "export/001.EMD", "dat_bas/001.BAL", "dat_bas/55010770-55020770.BAL",
@@ -108,8 +125,8 @@ TEST(BasisMitSuite, von_der_liste_der_paare_bis_zur_ausgleichung)
     EXPECT_EQ(platz.jorv({"basislinie-loeschen", "1", linie}).status, 0);  // the question's default is "no"
     EXPECT_NE(platz.datei("001.INI").find("55020770.10o"), platz.datei("001.INI").rfind("55020770.10o"));
     platz.gut({"--ja", "basislinie-loeschen", "1", linie});
-    EXPECT_FALSE(platz.hat("jorv_out/export/001.MRK"));
-    EXPECT_EQ(platz.gut({"--json", "ergebnisse", "1"}), "{\n  \"Ergebnisse\": []\n}\n");
+    EXPECT_EQ(platz.datei("jorv_out/export/001.MRK"), mrk.substr(mrk.find("garr")));
+    EXPECT_EQ(platz.gut({"ergebnisse", "1"}).find(linie), std::string::npos);
     EXPECT_EQ(platz.jorv({"basislinie-loeschen", "1", linie}).status, 1);
 }
 

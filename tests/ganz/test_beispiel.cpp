@@ -69,6 +69,13 @@ TEST(Ganz_Beispiel, EinRoverVonDenDateienBisZurKoordinate)
         EXPECT_TRUE(fs::exists(platz.host("verfahren") / datei)) << datei;
     const Json ergebnis = Json::parse(platz.gut({"--json", "ergebnisse", "1"}).aus);
     EXPECT_EQ(ergebnis["Ergebnisse"][0]["Loesung"], "FixedL1");
+    const double rechts = ergebnis["Ergebnisse"][0]["Rechtswert"];
+    EXPECT_THAT(platz.gut({"export", "1", "--format", "csv"}).aus,
+                HasSubstr("ROVER,5504,55041670.16o,FixedL1," + fest(rechts, 4)));
+    // The program of the averaging finds the results of all rovers and its task.
+    hilfen::schreiben(platz.host("programme/runa"), "#!/bin/sh\ngrep -c FixedL1 001.UTM\ngrep -a Titel 001.INI\n");
+    fs::permissions(platz.host("programme/runa"), fs::perms::owner_all);
+    EXPECT_THAT(platz.gut({"mitteln", "1"}).err, HasSubstr("1\nTitel=Verfahren -->Waldweg<--(001)  MITTELUNG"));
     // What is computed isn't computed again.
     EXPECT_THAT(platz.jorv({"auswerten", "1"}).err, HasSubstr("INFO "));
 }

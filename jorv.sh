@@ -13,7 +13,8 @@ kerne=$(nproc)
 hilfe() {
     cat <<TEXT
 ./jorv.sh beispiel        richtet ein, baut, erzeugt ein Beispielnetz, wertet es aus und vergleicht mit der Wahrheit
-./jorv.sh start           richtet ein, baut und öffnet das Fenster
+./jorv.sh start [beispiel]
+                          richtet ein, baut und öffnet das Fenster, mit "beispiel" auf dem erzeugten Beispiel
 ./jorv.sh test [--lang]   richtet ein, baut und prüft alles; --lang nimmt die langen Prüfungen dazu
 ./jorv.sh pfad            nennt den Ordner der gebauten Programme
 TEXT
@@ -118,10 +119,17 @@ vorfuehren() {
     beispiel_rechnen
 }
 
+# Mit "beispiel" gelten die Einstellungen des Beispiels, und sein Ordner bekommt, was neben den Programmen liegt.
 fenster_oeffnen() {
     einrichten
-    bauen jorvplus jorv jorv-dos WATIME wav2 wa2 wasoft waprt
-    "$programme/jorvplus"
+    bauen jorvplus beilagen jorv jorv-dos WATIME wav2 wa2 wasoft waprt washmod
+    [[ ${1:-} == beispiel ]] || exec "$programme/jorvplus"
+    [[ -e $beispiel/.jorv-beispiel ]] || abbrechen "Das Beispiel fehlt noch: ./jorv.sh beispiel"
+    local datei
+    for datei in "$programme"/{jorvplus,wasoft,waprt,washmod,*.bmp,Jorv.ICO,Jorv-Neuerungen.txt,JorvPlus-Handbuch.pdf}; do
+        ln -sf "$datei" "$beispiel/programme/"
+    done
+    JORV_EINSTELLUNGEN=$beispiel/JorvPlus.INI exec "$programme/jorvplus"
 }
 
 case ${1:-hilfe} in
@@ -130,8 +138,8 @@ beispiel)
     vorfuehren
     ;;
 start)
-    [[ $# -eq 1 ]] || { hilfe >&2; exit 2; }
-    fenster_oeffnen
+    [[ $# -eq 1 || ($# -eq 2 && $2 == beispiel) ]] || { hilfe >&2; exit 2; }
+    fenster_oeffnen "${2:-}"
     ;;
 test)
     [[ $# -eq 1 || ($# -eq 2 && $2 == --lang) ]] || { hilfe >&2; exit 2; }

@@ -126,7 +126,7 @@ fenster_oeffnen() {
     [[ ${1:-} == beispiel ]] || exec "$programme/jorvplus"
     [[ -e $beispiel/.jorv-beispiel ]] || abbrechen "Das Beispiel fehlt noch: ./jorv.sh beispiel"
     local datei
-    for datei in "$programme"/{jorvplus,wasoft,waprt,washmod,*.bmp,Jorv.ICO,Jorv-Neuerungen.txt,JorvPlus-Handbuch.pdf}; do
+    for datei in "$programme"/{jorvplus,wasoft,waprt,washmod,*.bmp,Jorv.ICO,Jorv-Neuerungen.txt,JorvPlus-Handbuch.*}; do
         ln -sf "$datei" "$beispiel/programme/"
     done
     JORV_EINSTELLUNGEN=$beispiel/JorvPlus.INI exec "$programme/jorvplus"

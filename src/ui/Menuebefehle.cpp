@@ -1,17 +1,22 @@
 #include "ui/Menuebefehle.h"
 
+#include <QDesktopServices>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 
+#include "auswertung/baumbefehle.h"
 #include "auswertung/lauf.h"
 #include "auswertung/protokolle.h"
 #include "daten/einfuegen.h"
 #include "daten/grenzen.h"
 #include "planung/figuren.h"
 #include "planung/zeitfenster.h"
+#include "plattform/text.h"
 #include "plattform/zahl.h"
 #include "projekt/verfahren.h"
 #include "projekt/verfahren_loeschen.h"
+#include "ui/Handbuchfenster.h"
 #include "ui/Kartenansicht.h"
 #include "ui/frmHauptform.h"
 
@@ -32,6 +37,16 @@ void karte(frmHauptform& form)
 {
     (form.karte().karte().*routine)();
     form.karte().erneuern();
+}
+
+void handbuch_oeffnen(frmHauptform& form)
+{
+    const auto pdf = handbuch(form.g());
+    if (!pdf) return;
+    const Dateisystem& dateien = form.g().dateien;
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(dateien.host(*pdf).string())))) return;
+    const auto text = dateien.lesen(verkettet(ohne_ende(*pdf, 3), "md"));
+    if (text) handbuch_zeigen(QString::fromStdString(*text));
 }
 
 struct Befehl {
@@ -56,6 +71,7 @@ constexpr std::array befehle = {
     Befehl{"m_grafik_leiste", [](frmHauptform& form) { form.leiste_umschalten(); }},
     Befehl{"m_geo_definieren", kern<m_geo_definieren>},
     Befehl{"m_geo_loeschen", kern<m_geo_loeschen>},
+    Befehl{"m_hilfe_handbuch", handbuch_oeffnen},
     Befehl{"m_wasoft_run_n", [](frmHauptform& form) { static_cast<void>(m_wasoft_run_n(form.g())); }},
 };
 

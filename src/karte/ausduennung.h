@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "karte/ansicht.h"
@@ -11,19 +12,16 @@
 
 namespace jorv {
 
-/// A shown point and its index in the array that it comes from.
-struct Sichtpunkt {
-    Bildort ort;
-    int index = 0;
-};
-
 /// The cells of a picture that are taken, with a margin as wide as a symbol.
 class Zellenraster {
 public:
     static constexpr double zelle = 4, rand = Ansicht::symbol;
 
     Zellenraster(double breite, double hoehe)
-        : m_spalten(anzahl(breite)), m_zeilen(anzahl(hoehe)), m_belegt(m_spalten * m_zeilen)
+        : m_spalten(anzahl(breite)),
+          m_rechts(m_spalten),
+          m_unten(anzahl(hoehe)),
+          m_belegt(static_cast<std::size_t>(m_spalten) * static_cast<std::size_t>(anzahl(hoehe)))
     {
     }
 
@@ -32,17 +30,17 @@ public:
     {
         const double spalte = (ort.x + rand) / zelle, zeile = (ort.y + rand) / zelle;
         // Written so that a place that is no number lies outside.
-        if (!(spalte >= 0 && zeile >= 0 && spalte < static_cast<double>(m_spalten) &&
-              zeile < static_cast<double>(m_zeilen)))
-            return false;
-        auto& feld = m_belegt[static_cast<std::size_t>(zeile) * m_spalten + static_cast<std::size_t>(spalte)];
-        return feld++ == 0 || (feld = 1, false);
+        if (!(spalte >= 0 && zeile >= 0 && spalte < m_rechts && zeile < m_unten)) return false;
+        auto& feld = m_belegt[static_cast<std::size_t>(static_cast<std::int32_t>(zeile) * m_spalten +
+                                                       static_cast<std::int32_t>(spalte))];
+        return std::exchange(feld, std::uint8_t{1}) == 0;
     }
 
 private:
-    static std::size_t anzahl(double laenge) { return static_cast<std::size_t>((laenge + 2 * rand) / zelle) + 1; }
+    static std::int32_t anzahl(double laenge) { return static_cast<std::int32_t>((laenge + 2 * rand) / zelle) + 1; }
 
-    std::size_t m_spalten, m_zeilen;
+    std::int32_t m_spalten;
+    double m_rechts, m_unten;
     std::vector<std::uint8_t> m_belegt;
 };
 
@@ -52,36 +50,27 @@ enum class Umfang { sichtbar, alles };
 /// Arrays up to this count are shown point by point.
 inline constexpr int ausduennen_ab = 5000;
 
-/// The points of an array that a picture shows, in array order.
-template <typename T>
-std::vector<Sichtpunkt> sichtpunkte(const Feld<T>& punkte, const Ansicht& ansicht, Umfang umfang)
+/// Hands the points of an array that a picture shows to `nimm`, in array order, with their place and their index.
+template <typename T, typename Nimm>
+void sichtbare_punkte(const Feld<T>& punkte, const Ansicht& ansicht, Umfang umfang, Nimm nimm)
 {
-    std::vector<Sichtpunkt> gezeigt;
-    const auto alle = static_cast<std::size_t>(punkte.anzahl());
-    int index = 0;
-    if (umfang == Umfang::alles) {
-        gezeigt.reserve(alle);
-        for (const T& p : punkte) gezeigt.push_back({ansicht.bild({p.Rechtswert, p.Hochwert}), ++index});
-        return gezeigt;
-    }
-    constexpr double rand = Zellenraster::rand;
-    const double rechts = ansicht.breite() + rand, unten = ansicht.hoehe() + rand;
-    if (punkte.anzahl() <= ausduennen_ab) {
+    const double links = ansicht.fenster().links, oben = ansicht.fenster().oben, je_meter = ansicht.je_meter();
+    const auto alle = [&](auto gezeigt) {
+        int index = 0;
         for (const T& p : punkte) {
             ++index;
-            const Bildort ort = ansicht.bild({p.Rechtswert, p.Hochwert});
-            if (ort.x >= -rand && ort.y >= -rand && ort.x <= rechts && ort.y <= unten) gezeigt.push_back({ort, index});
+            const Bildort ort = {(p.Rechtswert - links) * je_meter, (oben - p.Hochwert) * je_meter};
+            if (gezeigt(ort)) nimm(ort, index);
         }
-        return gezeigt;
+    };
+    if (umfang == Umfang::alles) return alle([](const Bildort&) { return true; });
+    if (punkte.anzahl() <= ausduennen_ab) {
+        constexpr double rand = Zellenraster::rand;
+        const double rechts = ansicht.breite() + rand, unten = ansicht.hoehe() + rand;
+        return alle([=](const Bildort& o) { return o.x >= -rand && o.y >= -rand && o.x <= rechts && o.y <= unten; });
     }
     Zellenraster raster(ansicht.breite(), ansicht.hoehe());
-    const double links = ansicht.fenster().links, oben = ansicht.fenster().oben, je_meter = ansicht.je_meter();
-    for (const T& p : punkte) {
-        ++index;
-        const Bildort ort = {(p.Rechtswert - links) * je_meter, (oben - p.Hochwert) * je_meter};
-        if (raster.belegen(ort)) gezeigt.push_back({ort, index});
-    }
-    return gezeigt;
+    alle([&](const Bildort& ort) { return raster.belegen(ort); });
 }
 
 }  // namespace jorv

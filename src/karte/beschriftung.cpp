@@ -12,7 +12,7 @@ namespace jorv {
 namespace {
 
 constexpr double zelle = 2, abstand = Ansicht::symbol + 3, hoehenabstand = abstand + 1;
-constexpr std::uint8_t leer = 0, symbol = 1, text_da = 2;
+constexpr std::uint8_t leer = 0, linie = 1, symbol = 2, text_da = 3;
 
 // Places around a point in the order of liking.
 struct Platz {
@@ -73,12 +73,13 @@ void Beschriftung::belegen(const Kasten& kasten, std::uint8_t womit)
     });
 }
 
-void Beschriftung::symbole_freihalten(const std::vector<Sichtpunkt>& punkte)
+void Beschriftung::symbole_freihalten(const std::vector<Bildort>& orte)
 {
+    if (orte.size() > ausduennen_ab) return;
     constexpr double kern = Ansicht::symbol - 1;  // so that a symbol doesn't take cells that it only touches
-    for (const auto& p : punkte)
-        if (p.ort.x >= 0 && p.ort.y >= 0 && p.ort.x < m_spalten * zelle && p.ort.y < m_zeilen * zelle)
-            belegen({p.ort.x - kern, p.ort.y - kern, p.ort.x + kern, p.ort.y + kern}, symbol);
+    for (const auto& ort : orte)
+        if (ort.x >= 0 && ort.y >= 0 && ort.x < m_spalten * zelle && ort.y < m_zeilen * zelle)
+            belegen({ort.x - kern, ort.y - kern, ort.x + kern, ort.y + kern}, symbol);
 }
 
 void Beschriftung::linie_freihalten(Bildort von, Bildort bis)
@@ -88,7 +89,7 @@ void Beschriftung::linie_freihalten(Bildort von, Bildort bis)
     const int schritte = static_cast<int>(std::hypot(dx, dy) / (zelle / 2)) + 1;
     for (int i = 0; i <= schritte; ++i) {
         const double x = von.x + dx * i / schritte, y = von.y + dy * i / schritte;
-        if (x >= 0 && y >= 0 && x < m_spalten * zelle && y < m_zeilen * zelle) belegen({x, y, x, y}, symbol);
+        if (x >= 0 && y >= 0 && x < m_spalten * zelle && y < m_zeilen * zelle) belegen({x, y, x, y}, linie);
     }
 }
 
@@ -111,7 +112,7 @@ void Beschriftung::schreiben(const Bildort& ort, const std::string& text, Zeiche
         return Kasten{links, oben, links + breite, oben + hoehe};
     };
     const Platz* gewaehlt = nullptr;
-    for (const std::uint8_t hoechstens : {leer, symbol})
+    for (const std::uint8_t hoechstens : {leer, linie})
         for (const Platz& platz : plaetze)
             if (gewaehlt == nullptr && frei(kasten(platz), hoechstens)) gewaehlt = &platz;
     if (gewaehlt == nullptr && m_umfang == Umfang::sichtbar) return;

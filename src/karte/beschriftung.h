@@ -14,12 +14,13 @@ class Beschriftung {
 public:
     Beschriftung(const Ansicht& ansicht, Umfang umfang);
 
-    void symbole_freihalten(const std::vector<Sichtpunkt>& punkte);
+    /// Very many symbols are passed over: there is no going round them.
+    void symbole_freihalten(const std::vector<Bildort>& orte);
     void linie_freihalten(Bildort von, Bildort bis);
     void freihalten(const Bildort& ecke, double breite, double hoehe);
 
-    /// The label beside its point where it covers neither label nor symbol nor line, else where it covers no label.
-    /// Where there is no such place it is left out, with Umfang::alles put at the usual place.
+    /// The label beside its point where it covers nothing, else where it covers lines alone. Where there is no such
+    /// place it is left out, with Umfang::alles put at the usual one.
     void schreiben(const Bildort& ort, const std::string& text, Zeichenliste& bild);
 
 private:

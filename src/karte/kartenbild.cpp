@@ -30,12 +30,11 @@ public:
               Rechteck{{0, 0}, m_ansicht.breite(), m_ansicht.hoehe(), std::nullopt, kartenfarbe::weiss});
         if (massstab) hinzu(Ebene::massstab, massstab->balken);
         if (m_g.Grenzen == "1") grenze_zeichnen(m_g, m_ansicht, m_umfang, m_bild);
-        punkte_bestimmen();
-        kreise(Ebene::katalog, m_katalog, kartenfarbe::gruen);
+        if (zeigt_katalog(m_g)) kreise(Ebene::katalog, orte(m_g.TOREL_Punkt, &m_katalog), kartenfarbe::gruen);
         figuren();
-        kreise(Ebene::rover, m_rover, kartenfarbe::rot);
-        kreise(Ebene::station, m_stationen, kartenfarbe::blau);
-        kreise(Ebene::fremde, m_fremde, kartenfarbe::blau);
+        kreise(Ebene::rover, orte(m_g.R_Punkt), kartenfarbe::rot);
+        kreise(Ebene::station, orte(m_g.S_Punkt), kartenfarbe::blau);
+        kreise(Ebene::fremde, orte(m_g.V_Punkt, &m_fremde), kartenfarbe::blau);
         ecken();
         if (m_g.PKZ == "1") grafik_pkz(massstab);
         zuordnungen();
@@ -51,21 +50,21 @@ private:
         m_bild.push_back({ebene, std::move(form)});
     }
 
-    void punkte_bestimmen()
+    // The places that the picture shows, and which points they are where that is asked for.
+    template <typename T>
+    std::vector<Bildort> orte(const Feld<T>& punkte, std::vector<int>* indices = nullptr) const
     {
-        if (zeigt_katalog(m_g)) m_katalog = sichtpunkte(m_g.TOREL_Punkt, m_ansicht, m_umfang);
-        m_rover = sichtpunkte(m_g.R_Punkt, m_ansicht, m_umfang);
-        m_stationen = sichtpunkte(m_g.S_Punkt, m_ansicht, m_umfang);
-        m_fremde = sichtpunkte(m_g.V_Punkt, m_ansicht, m_umfang);
+        std::vector<Bildort> gezeigt;
+        sichtbare_punkte(punkte, m_ansicht, m_umfang, [&](const Bildort& ort, int index) {
+            gezeigt.push_back(ort);
+            if (indices != nullptr) indices->push_back(index);
+        });
+        return gezeigt;
     }
 
-    void kreise(Ebene ebene, const std::vector<Sichtpunkt>& punkte, Farbe fuellung)
+    void kreise(Ebene ebene, std::vector<Bildort> orte, Farbe fuellung)
     {
-        if (punkte.empty()) return;
-        Kreise form{{}, Ansicht::symbol, umriss, fuellung};
-        form.orte.reserve(punkte.size());
-        for (const auto& p : punkte) form.orte.push_back(p.ort);
-        hinzu(ebene, std::move(form));
+        if (!orte.empty()) hinzu(ebene, Kreise{std::move(orte), Ansicht::symbol, umriss, fuellung});
     }
 
     Bildort ort(double Rechtswert, double Hochwert) const { return m_ansicht.bild({Rechtswert, Hochwert}); }
@@ -93,31 +92,34 @@ private:
     {
         if (m_g.geo_fertig || m_g.GEO_Punkt.anzahl() == 0) return;
         const auto& figur = m_g.GEO_Punkt[m_g.GEO_Punkt.anzahl()];
-        std::vector<Sichtpunkt> punkte;
-        for (int n = 1; n <= figur.Anzahl; ++n) punkte.push_back({ecke(figur, n), n});
-        kreise(Ebene::ecke, punkte, kartenfarbe::gelb);
+        std::vector<Bildort> orte;
+        for (int n = 1; n <= figur.Anzahl; ++n) orte.push_back(ecke(figur, n));
+        kreise(Ebene::ecke, std::move(orte), kartenfarbe::gelb);
     }
 
     void grafik_pkz(const std::optional<Massstabbild>& massstab)
     {
+        const bool mit_fremden = ist_F(m_g) && !m_fremde.empty();
+        if (m_katalog.empty() && !mit_fremden) return;
         Beschriftung beschriftung(m_ansicht, m_umfang);
-        for (const auto* punkte : {&m_katalog, &m_rover, &m_stationen, &m_fremde})
-            beschriftung.symbole_freihalten(*punkte);
-        for (const auto& schritt : m_bild)
-            if (const auto* l = std::get_if<Linie>(&schritt.form); l != nullptr)
-                beschriftung.linie_freihalten(l->von, l->bis);
+        for (const auto& schritt : m_bild) {
+            if (const auto* l = std::get_if<Linie>(&schritt.form)) beschriftung.linie_freihalten(l->von, l->bis);
+            if (const auto* k = std::get_if<Kreise>(&schritt.form)) beschriftung.symbole_freihalten(k->orte);
+        }
         if (massstab) {
             const Schrift& schrift = massstab->schrift;
             const double breite = schriftbreite(schrift.text, schrift.groesse), hoehe = schrifthoehe(schrift.groesse);
             beschriftung.freihalten({schrift.ort.x - breite / 2, schrift.ort.y - hoehe}, breite, hoehe);
             beschriftung.freihalten(massstab->balken.ecke, massstab->balken.breite, massstab->balken.hoehe);
         }
-        const auto schreiben = [&](const std::vector<Sichtpunkt>& punkte, const auto& name) {
-            for (const auto& p : punkte) beschriftung.schreiben(p.ort, name(p.index) + " ", m_bild);
-        };
-        schreiben(m_katalog, [this](int i) { return m_g.TOREL_Punkt[i].PKZ; });
-        if (ist_F(m_g))
-            schreiben(m_fremde, [this](int i) { return i <= m_g.OBS_V.anzahl() ? m_g.OBS_V[i].Dateiname : ""; });
+        for (const int i : m_katalog) {
+            const auto& p = m_g.TOREL_Punkt[i];
+            beschriftung.schreiben(ort(p.Rechtswert, p.Hochwert), p.PKZ + " ", m_bild);
+        }
+        if (!mit_fremden) return;
+        for (const int i : m_fremde)
+            if (i <= m_g.OBS_V.anzahl())
+                beschriftung.schreiben(ort(m_g.V_Punkt[i]), m_g.OBS_V[i].Dateiname + " ", m_bild);
     }
 
     // The index kept with the link, unless the stations have moved since.
@@ -158,7 +160,7 @@ private:
     const Global& m_g;
     const Ansicht& m_ansicht;
     Umfang m_umfang;
-    std::vector<Sichtpunkt> m_katalog, m_rover, m_stationen, m_fremde;
+    std::vector<int> m_katalog, m_fremde;  // shown points that have a label
     Zeichenliste m_bild;
 };
 

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "karte/ansicht.h"
+
 namespace jorv {
 
 namespace {
@@ -15,7 +17,10 @@ class Bild {
 public:
     Bild(const Bildort& ort, Ebene ebene, Zeichenliste& ziel) : m_ort(ort), m_ebene(ebene), m_ziel(ziel) {}
 
-    void scheibe(Farbe farbe) { m_ziel.push_back({m_ebene, Kreise{{m_ort}, radius, rand(), farbe}}); }
+    void scheibe(Farbe farbe, double groesse = radius)
+    {
+        m_ziel.push_back({m_ebene, Kreise{{m_ort}, groesse, rand(), farbe}});
+    }
     void ring(Farbe farbe)
     {
         m_ziel.push_back({m_ebene, Kreise{{m_ort}, radius - 1, {farbe, strich, Strich::voll}, kartenfarbe::weiss}});
@@ -62,6 +67,7 @@ void lichtzeichen(int bild, const Bildort& ort, Ebene ebene, Zeichenliste& ziel)
             b.zug({{-3, 0}, {-1, 2.5}, {3, -2.5}}, kartenfarbe::weiss);
             break;
         case 2:
+            b.scheibe(kartenfarbe::weiss, Ansicht::symbol + 1);  // the symbol below would show beside the tip
             b.flaeche({{0, -7}, {7.5, 6}, {-7.5, 6}}, gelb);
             b.zug({{0, -3}, {0, 1.5}}, dunkel);
             b.zug({{0, 3}, {0, 4.5}}, dunkel);

@@ -10,6 +10,9 @@ namespace jorv {
 
 inline constexpr double schrift_pkz = 11, schrift_massstab = 11, schrift_hinweis = 12;
 
+/// Room at both ends of a text with a background of its own.
+inline constexpr double textrand = 6;
+
 /// Width of a line in a common sans serif font of that height.
 inline double schriftbreite(std::string_view text, double groesse)
 {

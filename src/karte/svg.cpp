@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "karte/schriftmass.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
 
@@ -71,6 +72,15 @@ struct Ankerwort {
 constexpr std::array<Ankerwort, 5> anker = {
     {{"start", 0.95}, {"start", 0.35}, {"end", 0.35}, {"middle", -0.25}, {"middle", 0.95}}};
 
+// The coloured box behind a text whose anchor is its upper left corner.
+std::string hintergrund(const Schrift& s)
+{
+    if (!s.hintergrund) return {};
+    return verkettet("<rect x=\"", zahl(s.ort.x + s.abstand.x), "\" y=\"", zahl(s.ort.y + s.abstand.y), "\" width=\"",
+                     zahl(schriftbreite(s.text, s.groesse) + 2 * textrand), "\" height=\"",
+                     zahl(schrifthoehe(s.groesse) + 2), "\"", fuellung(s.hintergrund), "/>\n");
+}
+
 struct Svg {
     std::string operator()(const Linie& l) const
     {
@@ -103,9 +113,10 @@ struct Svg {
     std::string operator()(const Schrift& s) const
     {
         const auto& wort = anker[static_cast<std::size_t>(s.anker)];
-        std::string text = verkettet("<text x=\"", zahl(s.ort.x + s.abstand.x), "\" y=\"",
-                                     zahl(s.ort.y + s.abstand.y + wort.grundlinie * s.groesse), "\" text-anchor=\"",
-                                     wort.waagrecht, "\" font-size=\"", zahl(s.groesse), "\"", fuellung(s.farbe));
+        std::string text = hintergrund(s);
+        text += verkettet("<text x=\"", zahl(s.ort.x + s.abstand.x + (s.hintergrund ? textrand : 0)), "\" y=\"",
+                          zahl(s.ort.y + s.abstand.y + wort.grundlinie * s.groesse), "\" text-anchor=\"",
+                          wort.waagrecht, "\" font-size=\"", zahl(s.groesse), "\"", fuellung(s.farbe));
         if (s.hof) text += " stroke=\"#ffffff\" stroke-width=\"2.5\" stroke-linejoin=\"round\" paint-order=\"stroke\"";
         return verkettet(text, ">", xml(trimmen(s.text)), "</text>\n");
     }

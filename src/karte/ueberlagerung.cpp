@@ -74,8 +74,8 @@ void Karte::figur_zeichnen(Zeichenliste& bild) const
 void Karte::marke_zeichnen(Zeichenliste& bild) const
 {
     if (!m_marke || !m_zeiger || m_zoom) return;
-    constexpr double weit = 4 * Ansicht::symbol, blank = 0.3;
-    const double breite = schriftbreite(m_marke->text, schrift_hinweis) + 4 * blank * schrift_hinweis;
+    constexpr double weit = 4 * Ansicht::symbol;
+    const double breite = schriftbreite(m_marke->text, schrift_hinweis) + 2 * textrand;
     const double hoehe = schrifthoehe(schrift_hinweis);
     const auto stelle = [](double zeiger, double laenge, double ende) {
         return zeiger + weit + laenge <= ende ? weit : -weit - laenge;

@@ -1,3 +1,5 @@
+#include <nlohmann/json.hpp>
+
 #include "karte/karte.h"
 #include "karte/kartenbild.h"
 #include "karte/svg.h"
@@ -20,6 +22,80 @@ int mass(const Lage& lage, std::string_view option, int vorgabe)
     return wert >= 1 && wert <= groesstes_mass ? wert : 0;
 }
 
+using Json = nlohmann::ordered_json;
+
+Json farbe(const Farbe& f)
+{
+    return {f.rot, f.gruen, f.blau};
+}
+
+Json stift(const Stift& s)
+{
+    return {{"Farbe", farbe(s.farbe)}, {"Breite", s.breite}, {"gepunktet", s.strich == Strich::gepunktet}};
+}
+
+Json stelle(const Bildort& ort)
+{
+    return {ort.x, ort.y};
+}
+
+Json stellen(const std::vector<Bildort>& orte)
+{
+    Json liste = Json::array();
+    for (const auto& ort : orte) liste.push_back(stelle(ort));
+    return liste;
+}
+
+// The members of each form behind its name.
+struct Form {
+    Json operator()(const Linie& l) const
+    {
+        return {{"Form", "linie"}, {"Orte", stellen({l.von, l.bis})}, {"Stift", stift(l.stift)}};
+    }
+    Json operator()(const Linienzug& l) const
+    {
+        return {{"Form", "linienzug"}, {"Orte", stellen(l.orte)}, {"Stift", stift(l.stift)}};
+    }
+    Json operator()(const Vieleck& v) const
+    {
+        return {
+            {"Form", "vieleck"}, {"Orte", stellen(v.orte)}, {"Stift", stift(v.stift)}, {"Fuellung", farbe(v.fuellung)}};
+    }
+    Json operator()(const Rechteck& r) const
+    {
+        Json j = {{"Form", "rechteck"}, {"Orte", stellen({r.ecke})}, {"Breite", r.breite}, {"Hoehe", r.hoehe}};
+        if (r.stift) j["Stift"] = stift(*r.stift);
+        if (r.fuellung) j["Fuellung"] = farbe(*r.fuellung);
+        return j;
+    }
+    Json operator()(const Kreise& k) const
+    {
+        Json j = {{"Form", "kreise"}, {"Orte", stellen(k.orte)}, {"Radius", k.radius}, {"Stift", stift(k.stift)}};
+        if (k.fuellung) j["Fuellung"] = farbe(*k.fuellung);
+        return j;
+    }
+    Json operator()(const Schrift& s) const
+    {
+        return {
+            {"Form", "text"}, {"Orte", stellen({s.ort})}, {"Text", utf8_aus_1252(s.text)}, {"Farbe", farbe(s.farbe)}};
+    }
+};
+
+std::string karte_json(const Zeichenliste& bild, const Ansicht& ansicht)
+{
+    Json schritte = Json::array();
+    for (const auto& schritt : bild) {
+        Json j = {{"Ebene", name(schritt.ebene)}};
+        j.update(std::visit(Form{}, schritt.form));
+        schritte.push_back(std::move(j));
+    }
+    const Ausschnitt& f = ansicht.fenster();
+    return Json{{"Y-min", f.links}, {"Y-max", f.rechts},          {"X-min", f.unten},
+                {"X-max", f.oben},  {"Faktor", ansicht.Faktor()}, {"Schritte", schritte}}
+               .dump(2) +
+           "\n";
+}
+
 Ausgang karte(Lage& lage)
 {
     const auto ausgabe = lage.option("--ausgabe");
@@ -29,8 +105,12 @@ Ausgang karte(Lage& lage)
     Karte karte(lage.g);
     karte.groesse_setzen(breite, hoehe);
     if (lage.aufruf.option.contains("--original")) karte.m_grafik_orginal();
-    lage.aus << (ausgabe == "svg" ? svg(karte.bild(), breite, hoehe)
-                                  : zeichenliste_text(karte_zeichnen(lage.g, karte.ansicht(), Umfang::alles)));
+    if (ausgabe == "svg") {
+        lage.aus << svg(karte.bild(), breite, hoehe);
+        return Ausgang::gut;
+    }
+    const auto bild = karte_zeichnen(lage.g, karte.ansicht(), Umfang::alles);
+    lage.aus << (lage.aufruf.json ? karte_json(bild, karte.ansicht()) : zeichenliste_text(bild));
     return Ausgang::gut;
 }
 

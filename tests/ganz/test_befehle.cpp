@@ -55,6 +55,7 @@ TEST(Ganz_Befehle, EinstellenZuordnenUndDieBatchdateiZeigtEs)
                "INFO Es können max. 4"},
               {{"nicht-fertig", "1", rover}, 1, "nicht berechnet"},
               {{"wasoft", "1", "alles"}, 2, "beides"},
+              {{"karte", "1", "--ausgabe", "bmp"}, 2, "ops oder svg"},
               {{"zeiten", "1", "12"}, 1, "keine Beobachtungen"}});
 
     platz.gut({"einstellen", "1", "alle", "DelLastMinutes=90", "Elevation=7"});
@@ -76,6 +77,13 @@ TEST(Ganz_Befehle, EinstellenZuordnenUndDieBatchdateiZeigtEs)
     const Json zeiten = Json::parse(platz.gut({"--json", "zeiten", "1", "167"}).aus);
     EXPECT_EQ(zeiten["Zeilen"].size(), 14u);
     EXPECT_NEAR(zeiten["Zeilen"][3]["von"], 340.0 / 419.5, 1e-9);  // minutes from 7:00 to 12:40 and to 13:59:30
+
+    const std::string svg = platz.gut({"karte", "1", "--ausgabe", "svg", "--breite", "300", "--hoehe", "200"}).aus;
+    EXPECT_THAT(svg, HasSubstr("viewBox=\"0 0 300 200\""));
+    EXPECT_THAT(svg, HasSubstr(">0593</text>"));
+    EXPECT_THAT(platz.gut({"karte", "1", "--ausgabe", "ops"}).aus, HasSubstr("\nfigur linie "));
+    const Json karte = Json::parse(platz.gut({"--json", "karte", "1", "--ausgabe", "ops"}).aus);
+    EXPECT_EQ(karte["Schritte"].back()["Text"], "10 km ");
 }
 
 TEST(Ganz_Befehle, GanzesVerfahrenRechnenUndEinenRoverZuruecknehmen)

@@ -117,10 +117,10 @@ TEST_F(Kartentest, ZeigtDieLichterDerEntstehendenFigur)
     EXPECT_EQ(formen(ecke(3)), "KZKLLS");  // the third corner would give the rover a green light
     p.g.OBS_S[3].Startzeit_Stunde = 2;     // it would come too late
     EXPECT_EQ(formen({5, 5}), "LL");
-    EXPECT_EQ(formen(ecke(3)), "VZZKLLS");
+    EXPECT_EQ(formen(ecke(3)), "KVZZKLLS");
     EXPECT_EQ(p.g.ROVER_TOREL.anzahl(), 0);
     klicken(3);
-    EXPECT_EQ(formen(ecke(1)), "VZZKLLS");
+    EXPECT_EQ(formen(ecke(1)), "KVZZKLLS");
     klicken(1);
     EXPECT_EQ(p.g.ROVER_TOREL[1].Status, 2);
     EXPECT_EQ(formen({5, 5}), "");

@@ -5,6 +5,8 @@
 #include <QSplitter>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextFrame>
+#include <QTextTable>
 
 namespace jorv {
 
@@ -22,6 +24,20 @@ void verzeichnis_fuellen(QListWidget& verzeichnis, const QTextDocument& text)
     }
 }
 
+void tabellen_gestalten(QTextDocument& text)
+{
+    for (QTextFrame* rahmen : text.rootFrame()->childFrames())
+        if (auto* tabelle = qobject_cast<QTextTable*>(rahmen)) {
+            QTextTableFormat form = tabelle->format();
+            form.setBorderCollapse(true);
+            form.setBorderBrush(QColor(190, 196, 202));
+            form.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+            form.setCellPadding(4);
+            form.setCellSpacing(0);
+            tabelle->setFormat(form);
+        }
+}
+
 }  // namespace
 
 void handbuch_zeigen(const QString& markdown)
@@ -35,6 +51,7 @@ void handbuch_zeigen(const QString& markdown)
     text->setOpenExternalLinks(true);
     text->document()->setDocumentMargin(16);
     text->setMarkdown(markdown);
+    tabellen_gestalten(*text->document());
     verzeichnis_fuellen(*verzeichnis, *text->document());
     QObject::connect(verzeichnis, &QListWidget::currentItemChanged, text, [text](const QListWidgetItem* eintrag) {
         // From the end back: the heading then stands at the upper edge and not at the lower one.

@@ -92,8 +92,9 @@ Fehler start(Global& g, const Startwahl& wahl)
 void erste_aktivierung(Global& g)
 {
     baum_aufbauen(g);
-    if (ist_fehler(torel_coo_laden(g))) g.oberflaeche->karte_zeichnen(true);
+    (void)ist_fehler(torel_coo_laden(g));  // a map without stations is shown all the same
     g.ErstStart = programm_version;
+    g.oberflaeche->karte_zeichnen(true);
     g.oberflaeche->titel_setzen(Titel(g));
     g.oberflaeche->liste_erneuern();
     (void)ist_fehler(menue_zeitfenster(g));

@@ -40,7 +40,7 @@ void Karte::wunsch_fuer_verfahren()
 {
     m_ansicht.wunsch_setzen(m_g.Grafik_Fenster_gelesen ? Ausschnitt{m_g.Y_min, m_g.Y_max, m_g.X_min, m_g.X_max}
                                                        : grafik_grenzen(m_g));
-    m_g.Grafik_Fenster_gelesen = false;
+    m_original = !std::exchange(m_g.Grafik_Fenster_gelesen, false);
     m_verfahren = verkettet(m_g.Verfahrensnummer, "|", m_g.Verfahrensname);
 }
 
@@ -50,7 +50,11 @@ void Karte::grafik_zeichnen(bool neu)
     m_lichter_stand.clear();  // the project's data may have changed
     // A map that has no size yet leaves the project's view for later.
     if (neu && m_ansicht.breite() > 0 && m_ansicht.hoehe() > 0) {
-        if (verfahren_gewechselt() || m_g.Grafik_Fenster_gelesen) wunsch_fuer_verfahren();
+        // The original size follows the catalogue, which may have been read or have grown since.
+        if (verfahren_gewechselt() || m_g.Grafik_Fenster_gelesen)
+            wunsch_fuer_verfahren();
+        else if (m_original)
+            m_ansicht.wunsch_setzen(grafik_grenzen(m_g));
         einpassen();
     }
     zeiger_setzen(m_zeiger);
@@ -59,6 +63,7 @@ void Karte::grafik_zeichnen(bool neu)
 void Karte::einpassen()
 {
     if (!m_ansicht.einpassen()) {
+        m_original = true;
         m_ansicht.wunsch_setzen(grafik_grenzen(m_g));
         (void)m_ansicht.einpassen();
     }
@@ -107,6 +112,7 @@ bool Karte::zoom_ausfuehren(const Gummiband& band)
     const Ausschnitt wunsch = ausschnitt_aus_ecken(m_ansicht.welt(band.von), m_ansicht.welt(band.bis));
     if (!(wunsch.breite() > kleinstes_band && wunsch.hoehe() > kleinstes_band)) return false;
     m_g.vergroessert = true;
+    m_original = false;
     m_ansicht.wunsch_setzen(wunsch);
     einpassen();
     return true;
@@ -140,6 +146,7 @@ void Karte::verlassen()
 void Karte::zoomen(const Bildort& fest, double faktor)
 {
     if (!m_ansicht.zoomen(fest, faktor)) return;
+    m_original = false;
     const bool erstes = !std::exchange(m_g.vergroessert, true);
     neu_zeigen();
     if (erstes) m_g.oberflaeche->menue_erneuern();
@@ -147,11 +154,14 @@ void Karte::zoomen(const Bildort& fest, double faktor)
 
 void Karte::verschieben(double dx, double dy)
 {
-    if (m_ansicht.verschieben(dx, dy)) neu_zeigen();
+    if (!m_ansicht.verschieben(dx, dy)) return;
+    m_original = false;
+    neu_zeigen();
 }
 
 void Karte::m_grafik_orginal()
 {
+    m_original = true;
     m_ansicht.wunsch_setzen(grafik_grenzen(m_g));
     einpassen();
     neu_zeigen();
@@ -159,7 +169,8 @@ void Karte::m_grafik_orginal()
 
 void Karte::m_grafik_verkleinern()
 {
-    if (!m_ansicht.verkleinern()) {
+    m_original = !m_ansicht.verkleinern();
+    if (m_original) {
         m_ansicht.wunsch_setzen(grafik_grenzen(m_g));
         einpassen();
     }
@@ -176,6 +187,7 @@ void Karte::m_grafik_pkz()
 
 void Karte::alles_zeigen()
 {
+    m_original = false;
     m_ansicht.wunsch_setzen(alles_umfassend(m_g));
     einpassen();
     neu_zeigen();

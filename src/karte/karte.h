@@ -97,6 +97,7 @@ private:
     Global& m_g;
     Ansicht m_ansicht;
     std::optional<std::string> m_verfahren;  // whose view is shown
+    bool m_original = true;                  // shows the whole catalogue
     std::optional<Gummiband> m_zoom;
     std::optional<Bildort> m_zeiger;
     std::optional<Punktmarke> m_marke;

@@ -56,6 +56,13 @@ TEST_F(Kartentest, ZeigtDenAusschnittDesVerfahrens)
     EXPECT_DOUBLE_EQ(p.g.Faktor, 50000.0 / 7500);
     karte.m_grafik_orginal();
     EXPECT_EQ(karte.ansicht().fenster(), (Ausschnitt{19500, 30500, 19500, 30500}));
+    p.g.TOREL_Punkt[3].Rechtswert = 40000;  // the original size follows the catalogue, a chosen view does not
+    karte.grafik_zeichnen(true);
+    EXPECT_EQ(karte.ansicht().fenster(), (Ausschnitt{19000, 41000, 14000, 36000}));
+    karte.verschieben(0, 1);
+    p.g.TOREL_Punkt[3].Rechtswert = 30000;
+    karte.grafik_zeichnen(true);
+    EXPECT_EQ(karte.ansicht().fenster().breite(), 22000);
     p.g.Verfahrensnummer = "002";  // one without a kept view, then one with
     karte.zoomen({0, 0}, 2);
     karte.grafik_zeichnen(true);

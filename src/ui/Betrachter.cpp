@@ -26,7 +26,7 @@ namespace jorv {
 namespace {
 
 constexpr std::size_t hoechstens = 64u << 20;  // more than that nobody reads, and it would fill the memory
-constexpr int spalten = 100, zeilen = 40;
+constexpr int spalten = 112, zeilen = 40;
 
 QFont festbreite(int punkte)
 {

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTimer>
 #include <cstdio>
 #include <functional>
@@ -50,6 +51,14 @@ public:
         });
         uhr.start(150);
         oeffnen();
+        // Windows that stand beside the main one hold nobody up.
+        QList<QPointer<QWidget>> oben;
+        for (QWidget* fenster : QApplication::topLevelWidgets()) oben.append(fenster);
+        for (const auto& fenster : oben)
+            if (fenster && fenster != &m_form && fenster->isVisible()) {
+                foto(*fenster, ++n == 1 ? name : name + QString::number(n));
+                fenster->close();
+            }
         if (n == 0 && eines) std::fprintf(stderr, "WARNUNG kein Fenster: %s\n", qPrintable(name));
     }
 

@@ -76,6 +76,40 @@ void lage(Objekt& objekt)
     zahl(objekt, "Laenge", ort.geographisch.laenge, 9);
 }
 
+using Ring = std::vector<Objektort>;
+
+// Where two edges of a ring cross between their ends.
+std::optional<Objektort> kreuzung(const Objektort& a, const Objektort& b, const Objektort& c, const Objektort& d)
+{
+    const double rx = b.Rechtswert - a.Rechtswert, ry = b.Hochwert - a.Hochwert;
+    const double sx = d.Rechtswert - c.Rechtswert, sy = d.Hochwert - c.Hochwert;
+    const double qx = c.Rechtswert - a.Rechtswert, qy = c.Hochwert - a.Hochwert, nenner = rx * sy - ry * sx;
+    const double t = (qx * sy - qy * sx) / nenner, u = (qx * ry - qy * rx) / nenner;
+    if (nenner == 0 || t <= 0 || t >= 1 || u <= 0 || u >= 1) return std::nullopt;
+    return ort_aus(geographisch_aus_utm(zone_verfahren, a.Rechtswert + t * rx, a.Hochwert + t * ry), false);
+}
+
+// A quadrilateral clicked crosswise encloses two triangles; maps want outlines that don't cross themselves.
+std::vector<Ring> ohne_kreuzung(const Ring& ring)
+{
+    for (std::size_t i = 0; i < 2 && ring.size() == 4; ++i) {
+        const Objektort &a = ring[i], &b = ring[i + 1], &c = ring[i + 2], &d = ring[(i + 3) % 4];
+        if (const auto schnitt = kreuzung(a, b, c, d)) return {{*schnitt, b, c}, {*schnitt, d, a}};
+    }
+    return {ring};
+}
+
+// Clicked either way round; maps want the outside on the right.
+void gegen_die_uhr(Ring& ring)
+{
+    double doppelte_flaeche = 0;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const Geographisch &a = ring[i].geographisch, &b = ring[(i + 1) % ring.size()].geographisch;
+        doppelte_flaeche += a.laenge * b.breite - b.laenge * a.breite;
+    }
+    if (doppelte_flaeche < 0) std::reverse(ring.begin(), ring.end());
+}
+
 class Sammlung {
 public:
     explicit Sammlung(const Global& zustand) : g(zustand) {}
@@ -107,16 +141,13 @@ private:
             objekt.name += verkettet(objekt.name.empty() ? "" : "-", figur.Punkt[i]);
         }
         if (objekt.orte.size() < 3) return;
-        // Clicked either way round; maps want the outside on the right.
-        double doppelte_flaeche = 0;
-        for (std::size_t i = 0; i < objekt.orte.size(); ++i) {
-            const Geographisch &a = objekt.orte[i].geographisch,
-                               &b = objekt.orte[(i + 1) % objekt.orte.size()].geographisch;
-            doppelte_flaeche += a.laenge * b.breite - b.laenge * a.breite;
-        }
-        if (doppelte_flaeche < 0) std::reverse(objekt.orte.begin(), objekt.orte.end());
         objekt.werte.push_back({"Stationen", Wertart::liste, std::move(ecken)});
-        m_objekte.push_back(std::move(objekt));
+        for (auto& ring : ohne_kreuzung(objekt.orte)) {
+            gegen_die_uhr(ring);
+            Objekt teil = objekt;
+            teil.orte = std::move(ring);
+            m_objekte.push_back(std::move(teil));
+        }
     }
 
     void station(std::string_view art, const OBS& datei, const Punkt& punkt)

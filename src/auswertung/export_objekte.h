@@ -44,9 +44,10 @@ inline constexpr std::array<std::string_view, 26> objektspalten = {
     "rXY",      "rYZ",     "rZX",        "Sigma",    "Ambiguitaeten",
     "Stationen"};
 
-/// Figures, stations (one point for all files of a station), rovers, links from rovers to their stations, baselines.
-/// Computed rovers and baselines carry their result, solution type and standard deviations (mm); the others lie where
-/// the header of their file says, and "Loesung" is "keine". What has no place on the earth is left out.
+/// Figures (one clicked crosswise as its two triangles), stations (one point for all files of a station), rovers, links
+/// from rovers to their stations, baselines. Computed rovers and baselines carry their result, solution type and
+/// standard deviations (mm); the others lie where the header of their file says, and "Loesung" is "keine". What has no
+/// place on the earth is left out.
 std::vector<Objekt> exportobjekte(const Global& g);
 
 }  // namespace jorv

@@ -57,6 +57,7 @@ struct Exportstand : Beispiel {
         g.S_Punkt[4] = g.S_Punkt[3];
         (void)g.GEO_Punkt.anfuegen(figur({{4e5, 5.7e6}, {4e5, 5.8e6}, {6e5, 5.8e6}}));
         (void)g.GEO_Punkt.anfuegen(figur({{4e5, 5.7e6}, {6e5, 5.7e6}, {6e5, 5.8e6}, {4e5, 5.8e6}}));
+        (void)g.GEO_Punkt.anfuegen(figur({{4e5, 5.7e6}, {6e5, 5.8e6}, {6e5, 5.7e6}, {4e5, 5.8e6}}));  // crosswise
         (void)g.GEO_Punkt.anfuegen(figur({{4e5, 5.7e6}}));
         legen("jorv_out\\dat_rov\\5501092a.05o.UTM", utm_zeile(500000));
     }
@@ -129,8 +130,9 @@ TEST(Export, geojson_haelt_sich_an_rfc_7946_und_nennt_was_bekannt_ist)
     const Exportstand e;
     const Json sammlung = e.geojson();
     sammlung_pruefen(sammlung);
-    for (const auto& [art, soll] : {std::pair{"Figur", 2}, {"TOREL", 3}, {"ROVER", 2}, {"Verbindung", 6}})
+    for (const auto& [art, soll] : {std::pair{"Figur", 4}, {"TOREL", 3}, {"ROVER", 2}, {"Verbindung", 6}})
         EXPECT_EQ(anzahl(sammlung, art), soll) << art;
+    EXPECT_NE(sammlung["features"][2].dump().find(", 500000.0000 5750000.0000"), std::string::npos);
     const Json rover = stueck(sammlung, "ROVER", "5501"), werte = rover["properties"];
     EXPECT_EQ(rover["geometry"]["coordinates"][0], 9.0);
     EXPECT_NEAR(rover["geometry"]["coordinates"][1], 52, 1e-7);

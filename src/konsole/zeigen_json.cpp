@@ -295,6 +295,8 @@ Json programm_json(const Global& g)
             {"Form_height", g.Form_height},
             {"Form_width", g.Form_width},
             {"Form_zustand", als_json(g.Form_zustand)},
+            {"Fenster_Baumbreite", als_json(g.Fenster_Baumbreite)},
+            {"Fenster_Werkzeugleiste", als_json(g.Fenster_Werkzeugleiste)},
             {"UTM_Zone", als_json(g.UTM_Zone)},
             {"Land", als_json(g.Land)},
             {"MARKER_Info", als_json(g.MARKER_Info)},

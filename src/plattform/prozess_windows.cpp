@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include "plattform/breit_windows.h"
 #include "plattform/pfad.h"
 #include "plattform/prozess.h"
 #include "plattform/text.h"
@@ -10,15 +11,6 @@ namespace jorv {
 namespace fs = std::filesystem;
 
 namespace {
-
-std::wstring breit(std::string_view utf8)
-{
-    const int laenge = static_cast<int>(utf8.size());
-    std::wstring text(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, nullptr, 0)),
-                      L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, text.data(), static_cast<int>(text.size()));
-    return text;
-}
 
 bool starten(std::wstring zeile, const fs::path& ordner, PROCESS_INFORMATION& kind)
 {

@@ -121,25 +121,20 @@ TEST(Einstellungen, MischenBehaeltVorhandenesUndUebergehtKommentare)
 namespace {
 
 int scheitern_lassen = 0;  // 1 read, 2 close, 3 unlink
-const Systemaufrufe kaputt{
-    [](const char* pfad, int a, unsigned r) { return Systemaufrufe::echte().oeffnen(pfad, a, r); },
-    [](int n, void* b, std::size_t a) {
-        errno = EIO;
-        return scheitern_lassen == 1 ? -1L : Systemaufrufe::echte().lesen(n, b, a);
-    },
-    [](int n, const void* b, std::size_t a) { return Systemaufrufe::echte().schreiben(n, b, a); },
-    [](int n) { return Systemaufrufe::echte().sichern(n); },
-    [](int n) {
+const Systemaufrufe kaputt = [] {
+    Systemaufrufe tafel = Systemaufrufe::echte();
+    tafel.lesen = [](int n, void* b, std::size_t a) {
+        return scheitern_lassen == 1 ? (errno = EIO, -1L) : Systemaufrufe::echte().lesen(n, b, a);
+    };
+    tafel.schliessen = [](int n) {
         const int ergebnis = Systemaufrufe::echte().schliessen(n);
-        errno = EIO;
-        return scheitern_lassen == 2 ? -1 : ergebnis;
-    },
-    [](const char* a, const char* b) { return Systemaufrufe::echte().umbenennen(a, b); },
-    [](const char* pfad) {
-        errno = EACCES;
-        return scheitern_lassen == 3 ? -1 : Systemaufrufe::echte().loeschen(pfad);
-    },
-    [](const char* pfad) { return Systemaufrufe::echte().ordner_sichern(pfad); }};
+        return scheitern_lassen == 2 ? (errno = EIO, -1) : ergebnis;
+    };
+    tafel.loeschen = [](const char* pfad) {
+        return scheitern_lassen == 3 ? (errno = EACCES, -1) : Systemaufrufe::echte().loeschen(pfad);
+    };
+    return tafel;
+}();
 
 }  // namespace
 

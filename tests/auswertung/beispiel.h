@@ -1,12 +1,12 @@
 // A project with rovers that are ready to be computed, for the tests of batch, run and reports.
 #pragma once
 
-#include <cerrno>
 #include <cstdlib>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 
+#include "hilfen/Bruch.h"
 #include "hilfen/Projekt.h"
 #include "modell/Baum.h"
 #include "plattform/pfad.h"
@@ -64,63 +64,6 @@ inline void stationen_anfuegen(Global& g)
         (void)g.S_Punkt.anfuegen(punkt);
     }
 }
-
-/// System calls that fail on demand. One break at a time; each is mended when the object goes.
-class Bruch {
-public:
-    explicit Bruch(Global& g) : m_g(g)
-    {
-        static const Systemaufrufe kaputt = [] {
-            Systemaufrufe tafel = Systemaufrufe::echte();
-            tafel.schreiben = schreiben;
-            tafel.lesen = lesen;
-            tafel.loeschen = loeschen;
-            tafel.umbenennen = umbenennen;
-            return tafel;
-        }();
-        m_g.dateien = Dateisystem(g.dateien.laufwerke(), kaputt);
-    }
-    Bruch(const Bruch&) = delete;
-    Bruch& operator=(const Bruch&) = delete;
-    ~Bruch()
-    {
-        m_g.dateien = Dateisystem(m_g.dateien.laufwerke());
-        schreiben_bei = lesen_bei = 0;
-        umbenennen_luegt = false;
-        loeschen_endung.clear();
-    }
-    static inline int schreiben_bei = 0;          ///< this write from now on finds a full disk
-    static inline int lesen_bei = 0;              ///< this read from now on finds a bad block
-    static inline bool umbenennen_luegt = false;  ///< a rename reports success and does nothing
-    static inline std::string loeschen_endung;    ///< files whose path ends so can't be deleted
-
-private:
-    static bool jetzt(int& zaehler) { return zaehler > 0 && --zaehler == 0; }
-    static long schreiben(int nummer, const void* bytes, std::size_t anzahl)
-    {
-        if (!jetzt(schreiben_bei)) return Systemaufrufe::echte().schreiben(nummer, bytes, anzahl);
-        errno = ENOSPC;
-        return -1;
-    }
-    static long lesen(int nummer, void* bytes, std::size_t anzahl)
-    {
-        if (!jetzt(lesen_bei)) return Systemaufrufe::echte().lesen(nummer, bytes, anzahl);
-        errno = EIO;
-        return -1;
-    }
-    static int loeschen(const char* pfad)
-    {
-        if (loeschen_endung.empty() || !std::string_view(pfad).ends_with(loeschen_endung))
-            return Systemaufrufe::echte().loeschen(pfad);
-        errno = EACCES;
-        return -1;
-    }
-    static int umbenennen(const char* alt, const char* neu)
-    {
-        return umbenennen_luegt ? Systemaufrufe::echte().loeschen(alt) : Systemaufrufe::echte().umbenennen(alt, neu);
-    }
-    Global& m_g;
-};
 
 /// Project "Muster" with the stations and the given rovers, antenna format "ATX", suite in C:\WaSoft.
 struct Beispiel : Pruefstand {

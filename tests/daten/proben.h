@@ -1,11 +1,11 @@
-// Sample files for the tests of this folder: RINEX files line by line, antenna files, and system calls that break.
+// Sample files for the tests of this folder: RINEX files line by line and antenna files.
 #pragma once
 
-#include <cerrno>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "hilfen/Bruch.h"
 #include "hilfen/Projekt.h"
 
 namespace jorv::hilfen {
@@ -45,69 +45,5 @@ inline std::string antennenblock(std::string_view typ, std::string_view nummer)
     zeile.resize(20, ' ');
     return kopfzeile(zeile + std::string(nummer), "TYPE / SERIAL NO");
 }
-
-/// System calls of the state's files that fail on demand; mended when the object goes.
-class Bruch {
-public:
-    explicit Bruch(Global& g) : m_g(g)
-    {
-        static const Systemaufrufe kaputt = [] {
-            Systemaufrufe tafel = Systemaufrufe::echte();
-            tafel.oeffnen = oeffnen;
-            tafel.lesen = lesen;
-            tafel.schreiben = schreiben;
-            tafel.schliessen = schliessen;
-            tafel.loeschen = loeschen;
-            return tafel;
-        }();
-        m_g.dateien = Dateisystem(g.dateien.laufwerke(), kaputt);
-    }
-    Bruch(const Bruch&) = delete;
-    Bruch& operator=(const Bruch&) = delete;
-    ~Bruch()
-    {
-        m_g.dateien = Dateisystem(m_g.dateien.laufwerke());
-        lesen_bei = schreiben_bei = schliessen_bei = 0;
-        verboten.clear();
-    }
-    static inline int lesen_bei = 0, schreiben_bei = 0, schliessen_bei = 0;  ///< the call that fails, from 1
-    static inline std::string verboten;  ///< paths that hold this can't be written or deleted
-
-private:
-    static bool jetzt(int& zaehler) { return zaehler > 0 && --zaehler == 0; }
-    static long fehler(int grund)
-    {
-        errno = grund;
-        return -1;
-    }
-    static bool gesperrt(std::string_view pfad)
-    {
-        return !verboten.empty() && pfad.find(verboten) != std::string_view::npos;
-    }
-    static int oeffnen(const char* pfad, int art, unsigned rechte)
-    {
-        constexpr int nur_lesen = 0;
-        if (art != nur_lesen && gesperrt(pfad)) return static_cast<int>(fehler(EACCES));
-        return Systemaufrufe::echte().oeffnen(pfad, art, rechte);
-    }
-    static long lesen(int nummer, void* bytes, std::size_t anzahl)
-    {
-        return jetzt(lesen_bei) ? fehler(EIO) : Systemaufrufe::echte().lesen(nummer, bytes, anzahl);
-    }
-    static long schreiben(int nummer, const void* bytes, std::size_t anzahl)
-    {
-        return jetzt(schreiben_bei) ? fehler(ENOSPC) : Systemaufrufe::echte().schreiben(nummer, bytes, anzahl);
-    }
-    static int schliessen(int nummer)
-    {
-        const int ergebnis = Systemaufrufe::echte().schliessen(nummer);
-        return jetzt(schliessen_bei) ? static_cast<int>(fehler(EIO)) : ergebnis;
-    }
-    static int loeschen(const char* pfad)
-    {
-        return gesperrt(pfad) ? static_cast<int>(fehler(EACCES)) : Systemaufrufe::echte().loeschen(pfad);
-    }
-    Global& m_g;
-};
 
 }  // namespace jorv::hilfen

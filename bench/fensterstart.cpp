@@ -1,7 +1,9 @@
 // From process start to the first painted window: our main window against a bare one with the same widgets, by turns.
 //   bench_fensterstart [ROUNDS]
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPainter>
@@ -17,6 +19,8 @@
 #include <vector>
 
 #include "app/start.h"
+#include "daten/katalog.h"
+#include "plattform/text.h"
 #include "ui/Anwendung.h"
 #include "ui/Bilder.h"
 #include "ui/Fensterschirm.h"
@@ -57,14 +61,37 @@ int nacktes_fenster()
     return QApplication::exec();
 }
 
+// The state of a program whose settings, logos and catalogue lie in the folder.
+bool starten(jorv::Global& g, const QString& ordner)
+{
+    const auto dos = g.dateien.laufwerke().dos(ordner.toStdString());
+    if (!dos || ist_fehler(jorv::start(g, {*dos + "\\JorvPlus.INI", *dos}))) return false;
+    g.Hinweis1.assign(1, '0');
+    return true;
+}
+
+// A network of twenty stations and the pictures that belong to the program.
+bool ordner_anlegen(const QString& ordner)
+{
+    const QDir programme(QStringLiteral(JORV_PROGRAMME));
+    for (const QString& logo : programme.entryList({QStringLiteral("*.bmp")}))
+        QFile::link(programme.filePath(logo), ordner + QLatin1Char('/') + logo);
+    jorv::Fensterschirm schirm;
+    const jorv::Systemuhr uhr;
+    jorv::Global g(schirm, uhr, jorv::Dateisystem());
+    std::string liste;
+    for (int i = 0; i < 20; ++i)
+        liste += jorv::verkettet(1000 + i, " ", 3880000 + i * 7919 % 60000, " ", 460000 + i * 5471 % 90000,
+                                 " 5020000 Ort\n");
+    return starten(g, ordner) && !ist_fehler(katalog_machen(g, liste)) && !ist_fehler(ende(g));
+}
+
 int unser_fenster(const QString& ordner)
 {
     jorv::Fensterschirm schirm;
     const jorv::Systemuhr uhr;
     jorv::Global g(schirm, uhr, jorv::Dateisystem());
-    const auto datei = g.dateien.laufwerke().dos((ordner + QStringLiteral("/JorvPlus.INI")).toStdString());
-    if (!datei || ist_fehler(jorv::start(g, {*datei, {}}))) return 1;
-    g.Hinweis1.assign(1, '0');
+    if (!starten(g, ordner)) return 1;
     jorv::frmHauptform form(g, schirm);
     form.show();
     form.erste_aktivierung();
@@ -92,6 +119,7 @@ int main(int anzahl, char** werte)
     QCoreApplication app(anzahl, werte);
     const int runden = anzahl > 1 ? std::max(1, QString::fromLatin1(werte[1]).toInt()) : 15;
     QTemporaryDir ordner;
+    if (!ordner_anlegen(ordner.path())) return 1;
     std::vector<double> nackt, unser;
     for (int i = 0; i < 2 * runden; ++i) {
         QElapsedTimer uhr;

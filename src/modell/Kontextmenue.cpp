@@ -108,13 +108,10 @@ std::vector<Kontexteintrag> kontextmenue(const Global& g, std::string_view baum_
         menue.wenn_datei({"mnu_tree_lis_editieren", "mnu_tree_rover_report_editieren", "mnu_tree_vrs_report_editieren",
                           "mnu_tree_err_editieren", "mnu_tree_dat_editieren"});
     } else {
-        // Stations, antennas and baselines are no rovers: nothing to switch or to set.
-        menue.aus("mnu_tree_stop");
-        menue.aus("mnu_tree_settings");
         if (baum_eltern == "Virtuelle Referenzstationen" || baum_eltern == "TOREL-Dateien")
             menue.aus("mnu_tree_loeschen");
         if (baum_eltern == "Basislinien" || baum_eltern == "Berechnete Basislinien") {
-            menue.aus("mnu_tree_editieren");
+            for (const auto name : {"mnu_tree_editieren", "mnu_tree_stop", "mnu_tree_settings"}) menue.aus(name);
             menue.text("mnu_tree_loeschen", u8"Basislinie &löschen"_w);
         }
         if (baum_eltern == "Berechnete Basislinien") {

@@ -107,8 +107,8 @@ TEST(Kontextmenue, FolgtDerGruppeUndDenErgebnissen)
     const std::string name = "5501092a.05o";
     EXPECT_EQ(kontext(e.g, "ROVER-Dateien", ""), "");
     EXPECT_EQ(kontext(e.g, name, "ROVER-Dateien"), "settings stop editieren loeschen ");
-    EXPECT_EQ(kontext(e.g, "05900920.05o", "TOREL-Dateien"), "editieren ");
-    EXPECT_EQ(kontext(e.g, "a.atx", "Antennen-Dateien"), "editieren loeschen ");
+    EXPECT_EQ(kontext(e.g, "05900920.05o", "TOREL-Dateien"), "settings stop editieren ");
+    EXPECT_EQ(kontext(e.g, "a.atx", "Antennen-Dateien"), "settings stop editieren loeschen ");
     hilfen::schreiben(e.pfad("jorv_out/lis_rov/" + name + ".LIS"), "x");
     hilfen::schreiben(e.pfad("jorv_out/prot_vrs/5501092a.vrt"), "x");
     EXPECT_EQ(kontext(e.g, name, "Berechnete ROVER-Dateien"),

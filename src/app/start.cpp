@@ -11,6 +11,7 @@
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 #include "plattform/umgebung.h"
+#include "plattform/zahl.h"
 #include "projekt/projektdatei_schreiben.h"
 #include "projekt/verfahren.h"
 
@@ -89,10 +90,11 @@ Fehler start(Global& g, const Startwahl& wahl)
     return status != 0 ? Fehler::gesetzt : Fehler::keiner;
 }
 
-void erste_aktivierung(Global& g)
+void erste_aktivierung(Global& g, const std::function<void()>& neuerungen)
 {
     baum_aufbauen(g);
     (void)ist_fehler(torel_coo_laden(g));  // a map without stations is shown all the same
+    if (neuerungen && zahl_lesen(g.Hinweis1) == 1) neuerungen();
     g.ErstStart = programm_version;
     g.oberflaeche->karte_zeichnen(true);
     g.oberflaeche->titel_setzen(Titel(g));

@@ -1,6 +1,7 @@
 // From process start to a usable program, and back to its end.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "modell/Global.h"
@@ -21,8 +22,9 @@ struct Startwahl {
 Fehler start(Global& g, const Startwahl& wahl = {});
 
 /// What the first showing of the main window does besides windows: the tree, the station catalogue, the version of the
-/// last start, menus. A failing catalogue has shown its message; the program goes on.
-void erste_aktivierung(Global& g);
+/// last start, menus. A failing catalogue has shown its message; the program goes on. `neuerungen` shows the news
+/// window; it is called between catalogue and map while the user wants to see it.
+void erste_aktivierung(Global& g, const std::function<void()>& neuerungen = {});
 
 /// Saves an open project that was read to its end, then the settings.
 Fehler ende(Global& g);

@@ -54,20 +54,37 @@ bool passt(const Global& g, Dateiart art, std::string_view verzeichnis, std::str
     return (endung == "apc" && offen("APC")) || (endung == "atx" && offen("ATX"));
 }
 
-void sammeln(const Global& g, Dateiart art, const std::string& verzeichnis, bool tief,
-             std::set<std::filesystem::path>& besucht, std::vector<std::string>& liste)
-{
-    std::error_code fehler;
-    // A link that leads back upwards must not be followed for ever.
-    if (!besucht.insert(std::filesystem::weakly_canonical(g.dateien.host(verzeichnis), fehler)).second) return;
-    for (const auto& eintrag : g.dateien.ordner_lesen(verzeichnis)) {
-        std::string pfad = pfad_verbinden(verzeichnis, eintrag.name);
-        if (!eintrag.ordner && passt(g, art, verzeichnis, eintrag.name))
-            liste.push_back(std::move(pfad));
-        else if (eintrag.ordner && tief)
-            sammeln(g, art, pfad, tief, besucht, liste);
+// The walk over the directory that the dialog stands on.
+class Sammler {
+public:
+    Sammler(const Global& g, Dateiart art, bool tief, const std::function<bool()>& weiter)
+        : m_g(g), m_art(art), m_tief(tief), m_weiter(weiter)
+    {
     }
-}
+    void sammeln(const std::string& verzeichnis)
+    {
+        std::error_code fehler;
+        // A link that leads back upwards must not be followed for ever.
+        const auto ort = std::filesystem::weakly_canonical(m_g.dateien.host(verzeichnis), fehler);
+        if (!m_besucht.insert(ort).second) return;
+        for (const auto& eintrag : m_g.dateien.ordner_lesen(verzeichnis)) {
+            if (m_weiter && !m_weiter()) return;
+            std::string pfad = pfad_verbinden(verzeichnis, eintrag.name);
+            if (!eintrag.ordner && passt(m_g, m_art, verzeichnis, eintrag.name))
+                liste.push_back(std::move(pfad));
+            else if (eintrag.ordner && m_tief)
+                sammeln(pfad);
+        }
+    }
+    std::vector<std::string> liste;
+
+private:
+    const Global& m_g;
+    Dateiart m_art;
+    bool m_tief;
+    const std::function<bool()>& m_weiter;
+    std::set<std::filesystem::path> m_besucht;
+};
 
 // ---- copying
 
@@ -112,13 +129,23 @@ bool eine_kopieren(Global& g, Dateiart art, const std::string& pfad)
     return false;
 }
 
-// Shows the dialog and copies; true when a file was copied.
+void mit_Fortschritt_kopieren(Global& g, Dateiart art, const std::vector<std::string>& pfade)
+{
+    g.oberflaeche->fortschritt_zeigen(kopieren_text);
+    dateien_kopieren(g, art, pfade, [&](std::size_t i) {
+        if (art == Dateiart::rinex)
+            g.oberflaeche->fortschritt_setzen(static_cast<double>(i + 1) * 100.0 / static_cast<double>(pfade.size()));
+    });
+    g.oberflaeche->fortschritt_verbergen();
+}
+
+// Shows the dialog and copies what the screen hasn't; true when a file was copied.
 bool dialog(Global& g, Dateiart art)
 {
     (void)g.dateien_liste.groesse_setzen(0);
     const auto wahl = g.oberflaeche->dateien_waehlen(art, g.Datei_Verzeichnis);
     if (!wahl) return false;
-    dateien_kopieren(g, art, wahl->dateien);
+    if (!wahl->dateien.empty()) mit_Fortschritt_kopieren(g, art, wahl->dateien);
     g.Datei_Verzeichnis = wahl->verzeichnis;
     return g.dateien_liste.anzahl() > 0;
 }
@@ -278,21 +305,18 @@ bool RINEX_Test(const Global& g, std::string_view verzeichnis, std::string_view 
 }
 
 std::vector<std::string> einfuegbare_Dateien(const Global& g, Dateiart art, std::string_view verzeichnis,
-                                             bool mit_Unterverzeichnissen)
+                                             bool mit_Unterverzeichnissen, const std::function<bool()>& weiter)
 {
-    std::vector<std::string> liste;
-    std::set<std::filesystem::path> besucht;
-    sammeln(g, art, std::string(verzeichnis), mit_Unterverzeichnissen, besucht, liste);
-    return liste;
+    Sammler sammler(g, art, mit_Unterverzeichnissen, weiter);
+    sammler.sammeln(std::string(verzeichnis));
+    return std::move(sammler.liste);
 }
 
-void dateien_kopieren(Global& g, Dateiart art, const std::vector<std::string>& pfade)
+void dateien_kopieren(Global& g, Dateiart art, const std::vector<std::string>& pfade,
+                      const std::function<void(std::size_t)>& kopiert)
 {
-    g.oberflaeche->fortschritt_zeigen("Bitte warten (Dateien werden kopiert)");
     for (std::size_t i = 0; i < pfade.size() && eine_kopieren(g, art, pfade[i]); ++i)
-        if (art == Dateiart::rinex)
-            g.oberflaeche->fortschritt_setzen(static_cast<double>(i + 1) * 100.0 / static_cast<double>(pfade.size()));
-    g.oberflaeche->fortschritt_verbergen();
+        if (kopiert) kopiert(i);
 }
 
 void neue_rinex_datei(Global& g, const std::string& name)

@@ -2,6 +2,7 @@
 // derived from them.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,13 +24,18 @@ void m_datei_antenne(Global& g);
 bool RINEX_Test(const Global& g, std::string_view verzeichnis, std::string_view name);
 
 /// The whole paths that the dialog offers for a directory, in the order of the names, subdirectories at their place.
+/// `weiter` is asked at each file and folder; false ends the walk with what was found.
 std::vector<std::string> einfuegbare_Dateien(const Global& g, Dateiart art, std::string_view verzeichnis,
-                                             bool mit_Unterverzeichnissen);
+                                             bool mit_Unterverzeichnissen, const std::function<bool()>& weiter = {});
 
 /// Copies the chosen files into the project directory, under their names in lower case, and lists the copies in
 /// dateien_liste. The first antenna file settles the project's format. Ends at the first failure, which has shown its
-/// message; what was copied stays listed.
-void dateien_kopieren(Global& g, Dateiart art, const std::vector<std::string>& pfade);
+/// message; what was copied stays listed. `kopiert` is called behind each file with its place (from 0) in `pfade`.
+void dateien_kopieren(Global& g, Dateiart art, const std::vector<std::string>& pfade,
+                      const std::function<void(std::size_t)>& kopiert = {});
+
+/// What is shown meanwhile.
+inline constexpr std::string_view kopieren_text = "Bitte warten (Dateien werden kopiert)";
 
 /// Registers a copied observation or navigation file. In modes E and S a station that the catalogue doesn't know, or
 /// knows elsewhere, is asked about first.

@@ -107,9 +107,9 @@ std::optional<Dateiwahl> Konsolenschirm::dateien_waehlen(Dateiart, std::string_v
     return std::exchange(dateiwahl, std::nullopt);
 }
 
-std::optional<Verfahrenswahl> Konsolenschirm::neues_verfahren(const Verfahrenswahl&, std::string_view)
+void Konsolenschirm::neues_verfahren(const Verfahrenswahl&, std::string_view, const Verfahrensanlage& ok)
 {
-    return std::exchange(verfahrenswahl, std::nullopt);
+    if (const auto wahl = std::exchange(verfahrenswahl, std::nullopt)) static_cast<void>(ok(*wahl));
 }
 
 void Konsolenschirm::fortschritt_zeichnen()

@@ -46,7 +46,7 @@ public:
     /// Gives `dateiwahl` once, then cancels.
     std::optional<Dateiwahl> dateien_waehlen(Dateiart art, std::string_view verzeichnis) override;
     /// Gives `verfahrenswahl` once, then cancels, so that a refused choice isn't offered for ever.
-    std::optional<Verfahrenswahl> neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer) override;
+    void neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer, const Verfahrensanlage& ok) override;
 
     /// Progress of the start is nobody's business: shown from here on.
     void fortschritt_erlauben() { m_fortschritt_erlaubt = true; }

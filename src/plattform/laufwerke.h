@@ -30,6 +30,9 @@ public:
     /// DOS path of a host path (made absolute). Nothing when a name can't be held in Windows-1252.
     std::optional<std::string> dos(const std::filesystem::path& host_pfad) const;
 
+    /// The drives ("Z:") and shares of this host, as they begin a path; in alphabetical order, drives first.
+    std::vector<std::string> alle() const;
+
     /// True for a drive ("D:", with or without "\") that exists.
     bool hat_laufwerk(std::string_view laufwerk) const;
 

@@ -97,6 +97,16 @@ bool Laufwerke::hat_laufwerk(std::string_view laufwerk) const
            std::any_of(m_tabelle.begin(), m_tabelle.end(), [&](const auto& z) { return z.dos == name; });
 }
 
+std::vector<std::string> Laufwerke::alle() const
+{
+    std::vector<std::string> namen = {"Z:"};
+    for (const auto& z : m_tabelle) namen.push_back(ist_unc(z.dos) ? z.dos : gross(z.dos));
+    std::sort(namen.begin(), namen.end(),
+              [](const auto& a, const auto& b) { return ist_unc(a) != ist_unc(b) ? ist_unc(b) : a < b; });
+    namen.erase(std::unique(namen.begin(), namen.end()), namen.end());
+    return namen;
+}
+
 std::optional<fs::path> Laufwerke::eintrag(const fs::path& ordner, std::string_view name)
 {
     const std::string genau = verbunden(ordner.native(), name);

@@ -21,6 +21,15 @@ bool Laufwerke::hat_laufwerk(std::string_view laufwerk) const
     return pfad && fs::exists(*pfad, fehler);
 }
 
+std::vector<std::string> Laufwerke::alle() const
+{
+    std::vector<std::string> namen;
+    const DWORD maske = GetLogicalDrives();
+    for (int i = 0; i < 26; ++i)
+        if (maske >> i & 1u) namen.push_back({static_cast<char>('A' + i), ':'});
+    return namen;
+}
+
 std::optional<fs::path> Laufwerke::eintrag(const fs::path& ordner, std::string_view name)
 {
     const fs::path pfad = ordner / fs::path(reinterpret_cast<const char8_t*>(utf8_aus_1252(name).c_str()));

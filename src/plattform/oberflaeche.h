@@ -2,6 +2,7 @@
 // tests implement it. Texts are Windows-1252; line breaks are "\n".
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,10 @@ struct Verfahrenswahl {
     std::string verzeichnis;
     std::string modus;  ///< "1" to "4"
 };
+/// A field of that dialog, for the focus.
+enum class Verfahrensfeld { name, verzeichnis };
+/// What its OK button does: nothing ends the dialog, a field gets the focus for another try (its message was shown).
+using Verfahrensanlage = std::function<std::optional<Verfahrensfeld>(const Verfahrenswahl&)>;
 
 class Oberflaeche {
 public:
@@ -68,9 +73,12 @@ public:
     /// couldn't be started. Unless a front end has a window of its own for it, that of the system does.
     virtual std::error_code im_fenster_starten(const Fensterstart& start);
 
-    /// The modal dialogs that a command needs; nothing means cancelled.
+    /// The modal dialogs that a command needs. Nothing means cancelled. A screen may copy the chosen files itself
+    /// while its dialog stays open; then it leaves them out of the answer.
     virtual std::optional<Dateiwahl> dateien_waehlen(Dateiart art, std::string_view verzeichnis) = 0;
-    virtual std::optional<Verfahrenswahl> neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer) = 0;
+    /// Asks until `ok` has taken a choice or the user cancels.
+    virtual void neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer,
+                                 const Verfahrensanlage& ok) = 0;
 };
 
 }  // namespace jorv

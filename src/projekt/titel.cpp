@@ -26,6 +26,17 @@ std::string Titel(const Global& g)
                      Modus_Buchstabe(g.Verfahrensmodus), "<   (", version_text(), ")");
 }
 
+std::string Logo_Version()
+{
+    return verkettet("Version ", programm_version, ".", programm_revision, u8"  für Windows XP/Win7 vom "_w,
+                     programm_datum);
+}
+
+std::string Neuerungen_Titel()
+{
+    return verkettet("Aktuelle Jorv-Version ", programm_version, " vom ", programm_datum);
+}
+
 std::string Logo_Datei(const Global& g)
 {
     constexpr std::array<std::string_view, 4> farben = {"_gelb", "_blau", "_grau", "_tinte"};

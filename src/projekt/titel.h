@@ -10,6 +10,10 @@ namespace jorv {
 /// The window's title, with and without an open project.
 std::string Titel(const Global& g);
 
+/// What the logo window and the news window say of the running program.
+std::string Logo_Version();
+std::string Neuerungen_Titel();
+
 /// The logo of region and mode in the directory of the programs; shown beside the title.
 std::string Logo_Datei(const Global& g);
 

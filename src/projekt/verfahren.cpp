@@ -5,6 +5,7 @@
 #include "modell/Meldungen.h"
 #include "planung/automatik.h"
 #include "planung/zeitfenster.h"
+#include "plattform/pfad.h"
 #include "plattform/profil.h"
 #include "plattform/text.h"
 #include "projekt/projektdatei_lesen.h"
@@ -16,7 +17,7 @@ namespace jorv {
 namespace {
 
 /// How the OK button of the new-project dialog ended.
-enum class Anlage { angelegt, nochmal, gescheitert };
+enum class Anlage { angelegt, falscher_name, falsches_verzeichnis, gescheitert };
 
 std::string projektdatei(std::string_view verzeichnis, std::string_view nummer)
 {
@@ -30,6 +31,14 @@ std::string_view verzeichnis_knapp(std::string_view verzeichnis)
     while (verzeichnis.size() > 1 && verzeichnis.ends_with('\\') && !verzeichnis.ends_with(":\\"))
         verzeichnis.remove_suffix(1);
     return verzeichnis;
+}
+
+// The same for what a user has typed: a path of the host, or one without a root, becomes a DOS path.
+std::string verzeichnis_aus_eingabe(const Global& g, std::string_view eingabe)
+{
+    const auto knapp = verzeichnis_knapp(eingabe);
+    if (knapp.empty() || ist_dos_pfad(knapp)) return std::string(knapp);
+    return g.dateien.laufwerke().dos(g.dateien.host(knapp)).value_or(std::string(knapp));
 }
 
 bool name_annehmbar(Global& g, std::string_view name)
@@ -48,8 +57,8 @@ bool name_annehmbar(Global& g, std::string_view name)
 
 bool verzeichnis_annehmbar(Global& g, std::string_view verzeichnis)
 {
-    if (!g.dateien.ist_ordner(verzeichnis)) {
-        if (!g.dateien.ordner_anlegen(verzeichnis)) return true;
+    if (verzeichnis.empty() || !g.dateien.ist_ordner(verzeichnis)) {
+        if (!verzeichnis.empty() && !g.dateien.ordner_anlegen(verzeichnis)) return true;
         stop_melden(g, datei_meldung("Das Verfahrensverzeichnis:", verzeichnis, "konnt nicht angelegt werden!"));
         return false;
     }
@@ -106,7 +115,8 @@ Anlage unter_sperre_anlegen(Global& g, std::string_view name, std::string_view v
 {
     Einstellungen_gesperrt einstellungen(g);
     Verfahrensliste_auffrischen(g, einstellungen.profil());
-    if (!name_annehmbar(g, name) || !verzeichnis_annehmbar(g, verzeichnis)) return Anlage::nochmal;
+    if (!name_annehmbar(g, name)) return Anlage::falscher_name;
+    if (!verzeichnis_annehmbar(g, verzeichnis)) return Anlage::falsches_verzeichnis;
 
     Verfahren_Satz v;
     v.Nummer = naechste_Nummer(g);
@@ -115,8 +125,8 @@ Anlage unter_sperre_anlegen(Global& g, std::string_view name, std::string_view v
     v.Modus = modus;
     v.ErstDatum = v.LetztDatum = datum_text(g.uhr->jetzt());
     const std::string datei = projektdatei(verzeichnis, v.Nummer);
-    if (!ueberschreiben_erlaubt(g, verzeichnis, datei)) return Anlage::nochmal;
-    if (ist_fehler(neue_datei_schreiben(g, v, datei))) return Anlage::nochmal;
+    if (!ueberschreiben_erlaubt(g, verzeichnis, datei)) return Anlage::falsches_verzeichnis;
+    if (ist_fehler(neue_datei_schreiben(g, v, datei))) return Anlage::falsches_verzeichnis;
     if (!g.Verfahren.anfuegen(std::move(v))) {
         stop_melden(g,
                     dimensionierung_meldung(63, "frmverfahr_OK",
@@ -141,7 +151,7 @@ Fehler Nummer_frei(Global& g)
 Anlage anlegen(Global& g, const Verfahrenswahl& wahl)
 {
     m_datei_sichern(g);
-    const std::string name(trimmen(wahl.name)), verzeichnis(verzeichnis_knapp(wahl.verzeichnis));
+    const std::string name(trimmen(wahl.name)), verzeichnis = verzeichnis_aus_eingabe(g, wahl.verzeichnis);
     return unter_sperre_anlegen(g, name, verzeichnis, wahl.modus);
 }
 
@@ -198,14 +208,14 @@ void Verfahren_schliessen(Global& g)
 Fehler m_datei_neu(Global& g)
 {
     if (ist_fehler(Nummer_frei(g))) return Fehler::gesetzt;
-    Verfahrenswahl wahl{"", g.Datei_Verzeichnis, "1"};
-    Anlage ergebnis = Anlage::nochmal;
-    while (ergebnis == Anlage::nochmal) {
-        const auto antwort = g.oberflaeche->neues_verfahren(wahl, naechste_Nummer(g));
-        if (!antwort) break;
-        wahl = *antwort;
+    auto ergebnis = Anlage::angelegt;
+    const auto ok = [&](const Verfahrenswahl& wahl) -> std::optional<Verfahrensfeld> {
         ergebnis = anlegen(g, wahl);
-    }
+        if (ergebnis == Anlage::falscher_name) return Verfahrensfeld::name;
+        if (ergebnis == Anlage::falsches_verzeichnis) return Verfahrensfeld::verzeichnis;
+        return std::nullopt;
+    };
+    g.oberflaeche->neues_verfahren({"", g.Datei_Verzeichnis, "1"}, naechste_Nummer(g), ok);
     (void)menue_zeitfenster(g);
     return ergebnis == Anlage::gescheitert ? Fehler::gesetzt : Fehler::keiner;
 }

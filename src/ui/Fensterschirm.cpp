@@ -6,7 +6,9 @@
 #include "ui/Ausgabefenster.h"
 #include "ui/Betrachter.h"
 #include "ui/Fortschrittsfeld.h"
+#include "ui/frmDateien.h"
 #include "ui/frmHauptform.h"
+#include "ui/frmverfahr.h"
 #include "ui/qtext.h"
 
 namespace jorv {
@@ -39,6 +41,7 @@ QWidget* vorderes_fenster(QWidget* hauptform)
 
 void einrichten(QMessageBox& box, Symbol symbol, std::string_view text, std::string_view titel)
 {
+    box.setObjectName(QStringLiteral("meldung"));
     box.setIcon(bild(symbol));
     box.setWindowTitle(anzeige(titel));
     box.setTextFormat(Qt::PlainText);
@@ -143,14 +146,16 @@ std::error_code Fensterschirm::im_fenster_starten(const Fensterstart& start)
     return Ausgabefenster::starten(start);
 }
 
-std::optional<Dateiwahl> Fensterschirm::dateien_waehlen(Dateiart, std::string_view)
+std::optional<Dateiwahl> Fensterschirm::dateien_waehlen(Dateiart art, std::string_view verzeichnis)
 {
-    return std::nullopt;
+    if (!m_hauptform) return std::nullopt;
+    return frmDateien(m_hauptform->g(), art, verzeichnis, m_hauptform).waehlen();
 }
 
-std::optional<Verfahrenswahl> Fensterschirm::neues_verfahren(const Verfahrenswahl&, std::string_view)
+void Fensterschirm::neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer,
+                                    const Verfahrensanlage& ok)
 {
-    return std::nullopt;
+    if (m_hauptform) frmverfahr(m_hauptform->g(), vorschlag, nummer, ok, m_hauptform).exec();
 }
 
 }  // namespace jorv

@@ -33,7 +33,7 @@ public:
     bool im_editor_oeffnen(std::string_view pfad) override;
     std::error_code im_fenster_starten(const Fensterstart& start) override;
     std::optional<Dateiwahl> dateien_waehlen(Dateiart art, std::string_view verzeichnis) override;
-    std::optional<Verfahrenswahl> neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer) override;
+    void neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer, const Verfahrensanlage& ok) override;
 
 private:
     frmHauptform* m_hauptform = nullptr;

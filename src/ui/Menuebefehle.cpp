@@ -1,10 +1,12 @@
 #include "ui/Menuebefehle.h"
 
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QUrl>
 #include <algorithm>
 #include <array>
 
+#include "app/neuerungen.h"
 #include "auswertung/baumbefehle.h"
 #include "auswertung/lauf.h"
 #include "auswertung/protokolle.h"
@@ -18,7 +20,9 @@
 #include "projekt/verfahren_loeschen.h"
 #include "ui/Handbuchfenster.h"
 #include "ui/Kartenansicht.h"
+#include "ui/frmErstStart.h"
 #include "ui/frmHauptform.h"
+#include "ui/frmVerfahrEdit.h"
 
 namespace jorv {
 
@@ -49,12 +53,30 @@ void handbuch_oeffnen(frmHauptform& form)
     if (text) handbuch_zeigen(QString::fromStdString(*text));
 }
 
+void m_datei_laden(frmHauptform& form)
+{
+    frmVerfahrEdit liste(form.g(), &form);
+    if (liste.exec() == QDialog::Accepted) static_cast<void>(Verfahren_oeffnen(form.g(), liste.name()));
+}
+
+void m_grund_editor(frmHauptform& form)
+{
+    QFileDialog wahl(&form, QStringLiteral("Editor auswählen"));
+    wahl.setObjectName(QStringLiteral("editor"));
+    wahl.setFileMode(QFileDialog::ExistingFile);
+    wahl.setNameFilters({QStringLiteral("Programme (*.exe)"), QStringLiteral("Alle Dateien (*.*)")});
+    if (wahl.exec() == QDialog::Accepted)
+        static_cast<void>(
+            Editor_setzen(form.g(), std::filesystem::path(wahl.selectedFiles().value(0).toStdU16String())));
+}
+
 struct Befehl {
     std::string_view name;
     void (*ausfuehren)(frmHauptform&);
 };
 constexpr std::array befehle = {
     Befehl{"m_datei_neu", kern<m_datei_neu>},
+    Befehl{"m_datei_laden", m_datei_laden},
     Befehl{"m_datei_sichern", kern<m_datei_sichern>},
     Befehl{"m_datei_loeschen", kern<m_datei_loeschen>},
     Befehl{"m_datei_rinex", kern<m_datei_rinex>},
@@ -72,6 +94,8 @@ constexpr std::array befehle = {
     Befehl{"m_geo_definieren", kern<m_geo_definieren>},
     Befehl{"m_geo_loeschen", kern<m_geo_loeschen>},
     Befehl{"m_hilfe_handbuch", handbuch_oeffnen},
+    Befehl{"m_grund_editor", m_grund_editor},
+    Befehl{"m_hilfe_neuerungen", [](frmHauptform& form) { frmErstStart(form.g(), &form).exec(); }},
     Befehl{"m_wasoft_run_n", [](frmHauptform& form) { static_cast<void>(m_wasoft_run_n(form.g())); }},
 };
 

@@ -28,6 +28,7 @@
 #include "ui/Fortschrittsfeld.h"
 #include "ui/Kartenansicht.h"
 #include "ui/Menuebefehle.h"
+#include "ui/frmErstStart.h"
 #include "ui/qtext.h"
 
 namespace jorv {
@@ -131,7 +132,7 @@ void frmHauptform::erste_aktivierung()
 {
     if (std::exchange(m_aktiviert, true)) return;
     lage_wiederherstellen();
-    jorv::erste_aktivierung(m_g);
+    jorv::erste_aktivierung(m_g, [this] { frmErstStart(m_g, this).exec(); });
 }
 
 void frmHauptform::leiste_anlegen()
@@ -369,11 +370,13 @@ void frmHauptform::lage_wiederherstellen()
         return;
     }
     const QRect frei = screen()->availableGeometry();
-    const int breite = std::clamp<int>(m_g.Form_width, 640, frei.width());
-    const int hoehe = std::clamp<int>(m_g.Form_height, 480, frei.height());
+    const int breite = std::min(std::max<int>(m_g.Form_width, 640), frei.width());
+    const int hoehe = std::min(std::max<int>(m_g.Form_height, 480), frei.height());
+    // Taken before the new size stores the present place.
+    const QPoint ort(std::clamp<int>(m_g.Form_left, frei.left(), frei.right() + 1 - breite),
+                     std::clamp<int>(m_g.Form_top, frei.top(), frei.bottom() + 1 - hoehe));
     resize(breite, hoehe);
-    move(std::clamp<int>(m_g.Form_left, frei.left(), frei.right() + 1 - breite),
-         std::clamp<int>(m_g.Form_top, frei.top(), frei.bottom() + 1 - hoehe));
+    move(ort);
 }
 
 void frmHauptform::resizeEvent(QResizeEvent* ereignis)

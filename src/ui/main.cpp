@@ -6,6 +6,7 @@
 #include "ui/Anwendung.h"
 #include "ui/Fensterschirm.h"
 #include "ui/frmHauptform.h"
+#include "ui/frmLogo.h"
 
 int main(int anzahl, char** werte)
 {
@@ -20,6 +21,7 @@ int main(int anzahl, char** werte)
     if (const QByteArray datei = qgetenv("JORV_EINSTELLUNGEN"); !datei.isEmpty())
         wahl.einstellungen = g.dateien.laufwerke().dos(datei.toStdString()).value_or("");
     if (ist_fehler(jorv::start(g, wahl))) return 1;
+    jorv::frmLogo(g).zeigen();
     jorv::frmHauptform form(g, schirm);
     form.show();
     form.erste_aktivierung();

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "app/neuerungen.h"
 #include "hilfen/Projekt.h"
 #include "plattform/profil.h"
 
@@ -45,6 +46,48 @@ TEST(Start, EinNeuerBenutzerBekommtOrdnerUndVorgaben)
     EXPECT_FALSE(ist_fehler(ende(b.g)));
     EXPECT_TRUE(Profil(hilfen::lesen(b.einstellungen("Documents"))).hat("START", "PKZ"));
     EXPECT_TRUE(b.schirm.gezeigt.empty()) << b.schirm.einzige();
+}
+
+TEST(Start, NeuerungenStehenInEinerDateiDerProgramme)
+{
+    Benutzer b;
+    b.g.EXE_Verzeichnis = b.heim.dos();
+    const std::string pfad = utf8_aus_1252(b.heim.dos()) + "\\Jorv-Neuerungen.txt";
+    EXPECT_EQ(utf8_aus_1252(Neuerungen_lesen(b.g).text), "    >>> Fehler <<<\n    " + pfad + "\n    nicht gefunden!");
+    hilfen::schreiben(b.heim.host() / "Jorv-Neuerungen.txt", "eins\r\nzwei");
+    EXPECT_EQ(Neuerungen_lesen(b.g).text, "eins\nzwei");
+    EXPECT_FALSE(Neuerungen_lesen(b.g).fehlt);
+    fs::remove(b.heim.host() / "Jorv-Neuerungen.txt");
+    fs::create_directory(b.heim.host() / "Jorv-Neuerungen.txt");
+    EXPECT_EQ(Neuerungen_lesen(b.g).text, "");
+    EXPECT_EQ(b.schirm.einzige(), "Die Datei:\n" + pfad + "\nkonnte nicht richtig gelesen werden!");
+}
+
+TEST(Start, NeuerungenKommenZwischenKatalogUndKarteSolangeSieGewuenschtSind)
+{
+    Benutzer b;
+    int gezeigt = 0;
+    for (const char* hinweis : {"1", " 1,0", "0", "", "2"}) {
+        b.g.Hinweis1 = hinweis;
+        b.g.ErstStart = "0.9";
+        erste_aktivierung(b.g, [&] {
+            ++gezeigt;
+            EXPECT_EQ(b.g.ErstStart, "0.9");
+        });
+        EXPECT_EQ(b.g.ErstStart, "1.0");
+    }
+    EXPECT_EQ(gezeigt, 2);
+}
+
+TEST(Start, EinEditorDenDieDateienNichtNennenKoennenWirdAbgelehnt)
+{
+    Benutzer b;
+    EXPECT_FALSE(ist_fehler(Editor_setzen(b.g, b.heim.host() / "kate")));
+    EXPECT_EQ(b.g.Editor, b.heim.dos() + "\\kate");
+    EXPECT_TRUE(ist_fehler(Editor_setzen(b.g, "/opt/\u0416/kate")));
+    EXPECT_EQ(b.schirm.einzige(),
+              "Das Programm:\n/opt/?/kate\nkann in JorvPlus nicht verwendet werden (Zeichen im Namen)!");
+    EXPECT_EQ(b.g.Editor, b.heim.dos() + "\\kate");
 }
 
 TEST(Start, DerDokumenteordnerFolgtDemSchreibtisch)

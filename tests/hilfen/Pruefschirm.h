@@ -80,13 +80,16 @@ public:
         dateiwahlen.pop_front();
         return wahl;
     }
-    std::optional<Verfahrenswahl> neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view) override
+    void neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view, const Verfahrensanlage& ok) override
     {
         vorschlaege.push_back(vorschlag);
-        if (verfahrenswahlen.empty()) return std::nullopt;
-        auto wahl = verfahrenswahlen.front();
-        verfahrenswahlen.pop_front();
-        return wahl;
+        while (!verfahrenswahlen.empty()) {
+            const auto wahl = verfahrenswahlen.front();
+            verfahrenswahlen.pop_front();
+            const auto feld = ok(wahl);
+            if (!feld) return;
+            nachgefragt.push_back(*feld);
+        }
     }
 
     /// The texts of all messages and questions, as UTF-8, in order.
@@ -108,7 +111,8 @@ public:
     std::vector<Gezeigtes> gezeigt;
     std::deque<Antwort> antworten;  ///< used up in order, then the question's default
     std::deque<std::optional<Dateiwahl>> dateiwahlen;
-    std::deque<std::optional<Verfahrenswahl>> verfahrenswahlen;
+    std::deque<Verfahrenswahl> verfahrenswahlen;  ///< used up until one is taken, then cancelled
+    std::vector<Verfahrensfeld> nachgefragt;
     std::vector<Verfahrenswahl> vorschlaege;
     std::vector<std::string> fortschritt, geoeffnet;
     std::vector<double> prozente;

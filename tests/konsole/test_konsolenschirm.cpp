@@ -72,8 +72,14 @@ TEST(Konsolenschirm, DialogeAntwortenEinmalUndBrechenDannAb)
     p.schirm.verfahrenswahl = Verfahrenswahl{"Nord", "Z:\\v", "1"};
     EXPECT_EQ(p.schirm.dateien_waehlen(Dateiart::rinex, "")->dateien.size(), 1u);
     EXPECT_FALSE(p.schirm.dateien_waehlen(Dateiart::rinex, ""));
-    EXPECT_EQ(p.schirm.neues_verfahren({}, "001")->name, "Nord");
-    EXPECT_FALSE(p.schirm.neues_verfahren({}, "001"));
+    std::vector<std::string> namen;
+    const auto ok = [&](const Verfahrenswahl& wahl) {
+        namen.push_back(wahl.name);
+        return std::optional(Verfahrensfeld::name);
+    };
+    p.schirm.neues_verfahren({}, "001", ok);
+    p.schirm.neues_verfahren({}, "001", ok);
+    EXPECT_EQ(namen, std::vector<std::string>{"Nord"});
 }
 
 }  // namespace

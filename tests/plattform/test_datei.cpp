@@ -163,6 +163,7 @@ TEST(Datei, LaufwerkeUndFreigabenStehenInDerTabelle)
     EXPECT_EQ(laufwerke.dos(ordner.wurzel() / "q"), "\\\\srv\\netz\\q");
     EXPECT_TRUE(dateien.schreiben("E:\\a.txt", alt));
     EXPECT_FALSE(dateien.vorhanden("\\\\srv\\anderes\\a"));
+    EXPECT_EQ(laufwerke.alle(), (std::vector<std::string>{"D:", "Z:", "\\\\srv\\netz"}));
     EXPECT_EQ(Laufwerke().dos("/"), "Z:\\");
     EXPECT_FALSE(Laufwerke().dos("/tmp/\xE4\xB8\xAD"));
 }

@@ -6,6 +6,7 @@
 #include "projekt/Vollprojekt.h"
 #include "projekt/projektdatei_schreiben.h"
 #include "projekt/verfahrensliste.h"
+#include "projekt/verzeichniswahl.h"
 
 using namespace jorv;
 using namespace jorv::hilfen;
@@ -100,12 +101,53 @@ TEST(NeuesVerfahren, DerDialogKommtWiederBisDieWahlStimmt)
                       "\nexistiert bereits und ist nicht leer!\nBitte ein anderes Verzeichnis auswählen!"}));
     EXPECT_EQ(p.schirm.vorschlaege[0].verzeichnis, p.g.Datei_Verzeichnis);
     EXPECT_EQ(p.schirm.vorschlaege[0].modus, "1");
-    EXPECT_EQ(p.schirm.vorschlaege[4].name, "A");
+    using enum Verfahrensfeld;
+    EXPECT_EQ(p.schirm.nachgefragt, (std::vector{name, name, verzeichnis, verzeichnis}));
     EXPECT_EQ(p.g.Verfahrensmodus, "3");
 
     // Cancelling leaves the open project as it is.
     EXPECT_EQ(m_datei_neu(p.g), Fehler::keiner);
     EXPECT_EQ(p.g.Verfahrensname, "A");
+}
+
+TEST(NeuesVerfahren, NimmtEinVerzeichnisWieEsDerBenutzerTippt)
+{
+    Pruefstand p;
+    const std::string host = p.pfad("getippt").string();
+    ASSERT_EQ(Verfahren_anlegen(p.g, {"Neues", text_aus_utf8(host + "/").value(), "1"}), Fehler::keiner);
+    EXPECT_EQ(p.g.Arbeitsverzeichnis, Laufwerke().dos(host).value());
+    EXPECT_EQ(Verfahren_anlegen(p.g, {"Ohne", " ", "1"}), Fehler::gesetzt);
+    EXPECT_EQ(p.schirm.einzige(), "Das Verfahrensverzeichnis:\n\nkonnt nicht angelegt werden!");
+}
+
+TEST(Verzeichniswahl, LegtEinNeuesVerzeichnisAnOderSagtWarumNicht)
+{
+    Pruefstand p;
+    const std::string ordner = p.ordner.dos();
+    schreiben(p.pfad("datei"), "x");
+    EXPECT_EQ(Verzeichnis_uebernehmen(p.g, ordner, " "), ordner);
+    EXPECT_EQ(Verzeichnis_uebernehmen(p.g, ordner + "\\", "neu"), ordner + "\\neu");
+    EXPECT_EQ(Verzeichnis_uebernehmen(p.g, "Z:\\", ordner.substr(3)), ordner) << "one that is there";
+    EXPECT_TRUE(fs::is_directory(p.pfad("neu")));
+    EXPECT_TRUE(p.schirm.gezeigt.empty());
+    for (const char* name : {"datei", "datei\\x", "a?b", "a\tb"}) {
+        p.schirm.gezeigt.clear();
+        EXPECT_EQ(Verzeichnis_uebernehmen(p.g, ordner, name), std::nullopt);
+        EXPECT_EQ(p.schirm.einzige(), "Das Verzeichnis:\n" + ordner + "\\" + name + "\n konnte nicht angelegt werden!");
+        EXPECT_EQ(p.schirm.gezeigt[0].symbol, Symbol::warnung);
+    }
+}
+
+TEST(Verzeichniswahl, BeginntWoEsDenWegNochGibt)
+{
+    Pruefstand p;
+    const std::string ordner = p.ordner.dos();
+    for (const char* name : {"b", "A", ".versteckt"}) fs::create_directory(p.pfad(name));
+    schreiben(p.pfad("datei"), "x");
+    EXPECT_EQ(Verzeichnis_Anfang(p.g, ordner + "\\weg\\noch weiter"), ordner);
+    EXPECT_EQ(Verzeichnis_Anfang(p.g, "Q:\\a"), "Z:\\");
+    EXPECT_EQ(Verzeichnis_Anfang(p.g, ""), "Z:\\");
+    EXPECT_EQ(Unterverzeichnisse(p.g, ordner), (std::vector<std::string>{"A", "b"}));
 }
 
 TEST(NeuesVerfahren, BekommtDieErsteFreieNummerAuchNebenEinemZweitenProgramm)

@@ -1,15 +1,15 @@
-// The tests of the windows: one application without a screen, as the program sets it up.
+// The windows' tests run without a screen, each in the style that the program has.
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLocale>
 
 int main(int anzahl, char** werte)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&anzahl, werte);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(anzahl, werte);
     QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     return RUN_ALL_TESTS();
 }

@@ -144,9 +144,14 @@ private:
     }();
 };
 
-/// A station catalogue in the folder of the programs, so that a start finds one.
+/// Station catalogue and logos in the folder of the programs, so that a start finds them.
 inline void katalog_anlegen(Global& g)
 {
+    QImage logo(160, 60, QImage::Format_RGB32);
+    logo.fill(Qt::yellow);
+    for (const char* farbe : {"", "_gelb", "_blau", "_grau", "_tinte"})
+        logo.save(QString::fromStdString(
+            (g.dateien.host(g.EXE_Verzeichnis) / (std::string("torel_kor") + farbe + ".bmp")).string()));
     EXPECT_FALSE(ist_fehler(torel_grund_neu(g, "0001", 3783000, 901600, 5038200, 572000, 5712000, "Ort")));
     g.TOREL_Punkt.leeren();
     g.Grenzen = "0";

@@ -1,17 +1,18 @@
 #include "ui/frmHauptform.h"
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QSaveFile>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
 #include <algorithm>
 
+#include "app/bilddatei.h"
 #include "app/start.h"
 #include "auswertung/baumbefehle.h"
 #include "daten/katalog.h"
@@ -231,17 +232,15 @@ void frmHauptform::karte_speichern()
     if (pfad.isEmpty()) return;
     if (QFileInfo(pfad).suffix().isEmpty())
         pfad += filter.contains(QLatin1String("svg")) ? QStringLiteral(".svg") : QStringLiteral(".png");
-    QSaveFile datei(pfad);
-    bool gut = datei.open(QIODevice::WriteOnly);
-    if (gut && pfad.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
-        const std::string text = svg(pic_grafik->karte().bild(), pic_grafik->width(), pic_grafik->height());
-        gut = datei.write(text.data(), static_cast<qint64>(text.size())) == static_cast<qint64>(text.size());
-    } else if (gut) {
-        gut = pic_grafik->bild(2).save(&datei, "PNG");
+    QByteArray bytes;
+    if (pfad.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+        bytes = QByteArray::fromStdString(svg(pic_grafik->karte().bild(), pic_grafik->width(), pic_grafik->height()));
+    } else {
+        QBuffer puffer(&bytes);
+        puffer.open(QIODevice::WriteOnly);
+        pic_grafik->bild(2).save(&puffer, "PNG");
     }
-    if (!gut || !datei.commit())
-        m_schirm.meldung(Symbol::stop,
-                         eingabe(QStringLiteral("Das Bild:\n%1\nkonnte nicht gespeichert werden!").arg(pfad)));
+    static_cast<void>(Bild_sichern(m_g, pfad.toStdU16String(), bytes.toStdString()));
 }
 
 void frmHauptform::leiste_umschalten()

@@ -45,8 +45,11 @@ frmLogo::frmLogo(Global& g)
     raster->addWidget(name, 0, 1, Qt::AlignLeft | Qt::AlignBottom);
     raster->addWidget(lbl_version, 1, 1, Qt::AlignLeft | Qt::AlignTop);
     raster->setRowMinimumHeight(2, abstand_gruppen);
-    raster->addWidget(chk_start, 3, 0, 1, 2);
-    raster->addWidget(cmd_start, 3, 1, Qt::AlignRight);
+    auto* unten = new QHBoxLayout;
+    unten->addWidget(chk_start);
+    unten->addStretch();
+    unten->addWidget(cmd_start);
+    raster->addLayout(unten, 3, 0, 1, 2);
     bild_laden();
 
     connect(chk_start, &QCheckBox::clicked, this, [this](bool gesetzt) {

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "app/bilddatei.h"
 #include "app/neuerungen.h"
 #include "hilfen/Projekt.h"
 #include "plattform/profil.h"
@@ -88,6 +89,15 @@ TEST(Start, EinEditorDenDieDateienNichtNennenKoennenWirdAbgelehnt)
     EXPECT_EQ(b.schirm.einzige(),
               "Das Programm:\n/opt/?/kate\nkann in JorvPlus nicht verwendet werden (Zeichen im Namen)!");
     EXPECT_EQ(b.g.Editor, b.heim.dos() + "\\kate");
+}
+
+TEST(Start, EinBildWirdGanzGesichertOderGarNicht)
+{
+    Benutzer b;
+    EXPECT_FALSE(ist_fehler(Bild_sichern(b.g, b.heim.host() / "karte.svg", "<svg/>")));
+    EXPECT_EQ(hilfen::lesen(b.heim.host() / "karte.svg"), "<svg/>");
+    EXPECT_TRUE(ist_fehler(Bild_sichern(b.g, b.heim.host(), "<svg/>")));
+    EXPECT_EQ(b.schirm.einzige(), "Das Bild:\n" + b.heim.host().string() + "\nkonnte nicht gespeichert werden!");
 }
 
 TEST(Start, DerDokumenteordnerFolgtDemSchreibtisch)

@@ -85,6 +85,11 @@ void Baumansicht::zeigen(const Global& g, const std::function<std::string(std::s
     m_im_aufbau = false;
 }
 
+std::string Baumansicht::gewaehlt() const
+{
+    return knotentext(currentItem());
+}
+
 // A click counts when the button goes up on the node that it went down on, not on the sign that opens a group.
 void Baumansicht::mouseReleaseEvent(QMouseEvent* ereignis)
 {

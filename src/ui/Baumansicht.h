@@ -18,6 +18,9 @@ public:
     /// text.
     void zeigen(const Global& g, const std::function<std::string(std::string_view, std::string_view)>& hinweis);
 
+    /// Text of the selected node, empty without one.
+    std::string gewaehlt() const;
+
     /// Called with the text of the node and of its parent; the parent's is empty for a top node.
     std::function<void(const std::string&knoten, const std::string&eltern)> bei_klick, bei_einstellungen;
     /// The same for the context menu, at a place on the screen; both texts are empty beside all nodes.

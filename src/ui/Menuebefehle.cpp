@@ -7,7 +7,15 @@
 #include <array>
 
 #include "app/neuerungen.h"
+#include "auswertung/basis_ausfuehren.h"
+#include "auswertung/basis_esa.h"
+#include "auswertung/basis_gesamt.h"
+#include "auswertung/basis_i95.h"
+#include "auswertung/basis_lovena.h"
 #include "auswertung/baumbefehle.h"
+#include "auswertung/folgeprogramme.h"
+#include "auswertung/gesamt_batch.h"
+#include "auswertung/gesamtlauf.h"
 #include "auswertung/lauf.h"
 #include "auswertung/protokolle.h"
 #include "daten/einfuegen.h"
@@ -18,8 +26,12 @@
 #include "plattform/zahl.h"
 #include "projekt/verfahren.h"
 #include "projekt/verfahren_loeschen.h"
+#include "ui/Baumansicht.h"
+#include "ui/Dateibefehle.h"
 #include "ui/Handbuchfenster.h"
 #include "ui/Kartenansicht.h"
+#include "ui/frmBasisDialog.h"
+#include "ui/frmEinstellungenAlle.h"
 #include "ui/frmErstStart.h"
 #include "ui/frmHauptform.h"
 #include "ui/frmVerfahrEdit.h"
@@ -70,6 +82,11 @@ void m_grund_editor(frmHauptform& form)
             Editor_setzen(form.g(), std::filesystem::path(wahl.selectedFiles().value(0).toStdU16String())));
 }
 
+void m_grund_EinstellungenAlle(frmHauptform& form)
+{
+    frmEinstellungenAlle::zeigen(form.g(), form.baum().gewaehlt(), &form);
+}
+
 struct Befehl {
     std::string_view name;
     void (*ausfuehren)(frmHauptform&);
@@ -96,7 +113,23 @@ constexpr std::array befehle = {
     Befehl{"m_hilfe_handbuch", handbuch_oeffnen},
     Befehl{"m_grund_editor", m_grund_editor},
     Befehl{"m_hilfe_neuerungen", [](frmHauptform& form) { frmErstStart(form.g(), &form).exec(); }},
+    Befehl{"m_datei_importieren", m_datei_importieren},
+    Befehl{"m_datei_basis_liste", m_datei_basis_liste},
+    Befehl{"m_datei_basis_dialog", [](frmHauptform& form) { frmBasisDialog(form.g(), &form).exec(); }},
+    Befehl{"m_grund_EinstellungenAlle", m_grund_EinstellungenAlle},
     Befehl{"m_wasoft_run_n", [](frmHauptform& form) { static_cast<void>(m_wasoft_run_n(form.g())); }},
+    Befehl{"m_wasoft_erstellen", kern<m_wasoft_erstellen>},
+    Befehl{"m_wasoft_batch", [](frmHauptform& form) { static_cast<void>(m_wasoft_batch(form.g())); }},
+    Befehl{"m_wasoft_run", [](frmHauptform& form) { static_cast<void>(m_wasoft_run(form.g())); }},
+    Befehl{"m_basis_erstellen", kern<m_basis_erstellen>},
+    Befehl{"m_basis_batch", kern<m_basis_batch>},
+    Befehl{"m_basis_run", kern<m_basis_run>},
+    Befehl{"m_basis_esa", [](frmHauptform& form) { static_cast<void>(m_basis_esa(form.g())); }},
+    Befehl{"m_basis_i95", kern<m_basis_i95>},
+    Befehl{"m_basis_lovena", kern<m_basis_lovena>},
+    Befehl{"m_wasoft_runa", kern<m_wasoft_runa>},
+    Befehl{"m_wasoft_holbek", kern<m_wasoft_holbek>},
+    Befehl{"m_protkoll_editieren", m_protkoll_editieren},
 };
 
 constexpr std::array protokollbefehle = {std::string_view("m_protkoll_einsehen"), std::string_view("m_protkoll_kurz"),

@@ -29,6 +29,7 @@
 #include "ui/Fortschrittsfeld.h"
 #include "ui/Kartenansicht.h"
 #include "ui/Menuebefehle.h"
+#include "ui/frmEinstellungen.h"
 #include "ui/frmErstStart.h"
 #include "ui/qtext.h"
 
@@ -206,6 +207,7 @@ void frmHauptform::baumbefehl(const std::string& name, const std::string& knoten
 
 void frmHauptform::baumfolge(const Baumfolge& folge, const std::string& knoten)
 {
+    if (folge.dialog == Baumdialog::einstellungen) frmEinstellungen::zeigen(m_g, knoten, this);
     if (folge.Punkte.empty()) return;
     pic_grafik->karte().basislinie_markieren(knoten);
     pic_grafik->erneuern();

@@ -50,6 +50,9 @@ public:
     /// A command of the context menu of a node.
     void baumbefehl(const std::string& name, const std::string& knoten, const std::string& eltern);
 
+    /// The file that m_protkoll_editieren opened last.
+    std::string editierte_datei;
+
 protected:
     void closeEvent(QCloseEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;

@@ -1,0 +1,75 @@
+#include "ui/Dateibefehle.h"
+
+#include <QFileDialog>
+
+#include "auswertung/protokolle.h"
+#include "daten/beziehungsliste.h"
+#include "daten/dateiauswahl.h"
+#include "plattform/pfad.h"
+#include "projekt/import_felder.h"
+#include "ui/frmHauptform.h"
+#include "ui/frmImport.h"
+#include "ui/qtext.h"
+
+namespace jorv {
+
+namespace {
+
+constexpr std::string_view editieren_titel = "beliebige Datei editieren", editieren_filter = "Alle Dateien (*.*)|*.*";
+
+// The patterns of "Name (*.ini)|*.ini| Name (*.*)|*.*" by their names; every file is meant by "*.*", also one without a
+// point.
+QStringList namensfilter(std::string_view filter)
+{
+    QStringList namen;
+    const QStringList teile = anzeige(filter).split(QLatin1Char('|'));
+    for (qsizetype i = 0; i + 1 < teile.size(); i += 2) {
+        const QString name = teile[i].section(QLatin1Char('('), 0, 0).trimmed();
+        const QString muster = teile[i + 1] == QLatin1String("*.*") ? QStringLiteral("*") : teile[i + 1];
+        namen << QStringLiteral("%1 (%2)").arg(name, muster);
+    }
+    return namen;
+}
+
+// An existing file as a DOS path; nothing when the dialog was cancelled or its name can't be used.
+std::optional<std::string> datei_waehlen(frmHauptform& form, const char* name, std::string_view titel,
+                                         std::string_view filter, std::string_view verzeichnis)
+{
+    Global& g = form.g();
+    QFileDialog wahl(&form, anzeige(titel));
+    wahl.setObjectName(QLatin1String(name));
+    wahl.setFileMode(QFileDialog::ExistingFile);
+    wahl.setNameFilters(namensfilter(filter));
+    if (!verzeichnis.empty()) wahl.setDirectory(QString::fromStdString(g.dateien.host(verzeichnis).string()));
+    if (wahl.exec() != QDialog::Accepted || wahl.selectedFiles().isEmpty()) return std::nullopt;
+    return gewaehlte_datei(g, wahl.selectedFiles().constFirst().toStdU16String());
+}
+
+}  // namespace
+
+void m_datei_importieren(frmHauptform& form)
+{
+    const auto datei =
+        datei_waehlen(form, "importdatei", import_auswahl_titel, import_auswahl_filter, form.g().Datei_Verzeichnis);
+    if (!datei) return;
+    if (auto import = m_datei_importieren(form.g(), *datei)) frmImport(form.g(), std::move(*import), &form).exec();
+}
+
+void m_datei_basis_liste(frmHauptform& form)
+{
+    const auto datei = datei_waehlen(form, "basisliste", basisliste_auswahl_titel, basisliste_auswahl_filter,
+                                     form.g().Datei_Verzeichnis);
+    if (datei) static_cast<void>(m_datei_basis_liste(form.g(), *datei));
+}
+
+void m_protkoll_editieren(frmHauptform& form)
+{
+    const auto verzeichnis =
+        form.editierte_datei.empty() ? form.g().Arbeitsverzeichnis : std::string(pfad_ordner(form.editierte_datei));
+    const auto datei = datei_waehlen(form, "editieren", editieren_titel, editieren_filter, verzeichnis);
+    if (!datei) return;
+    form.editierte_datei = *datei;
+    static_cast<void>(datei_editieren(form.g(), *datei));
+}
+
+}  // namespace jorv

@@ -15,7 +15,7 @@ namespace jorv {
 
 namespace {
 
-constexpr std::string_view editieren_titel = "beliebige Datei editieren", editieren_filter = "Alle Dateien (*.*)|*.*";
+constexpr std::string_view editieren_titel = "beliebige Datei editieren";
 
 // The patterns of "Name (*.ini)|*.ini| Name (*.*)|*.*" by their names; every file is meant by "*.*", also one without a
 // point.
@@ -66,7 +66,7 @@ void m_protkoll_editieren(frmHauptform& form)
 {
     const auto verzeichnis =
         form.editierte_datei.empty() ? form.g().Arbeitsverzeichnis : std::string(pfad_ordner(form.editierte_datei));
-    const auto datei = datei_waehlen(form, "editieren", editieren_titel, editieren_filter, verzeichnis);
+    const auto datei = datei_waehlen(form, "editieren", editieren_titel, basisliste_auswahl_filter, verzeichnis);
     if (!datei) return;
     form.editierte_datei = *datei;
     static_cast<void>(datei_editieren(form.g(), *datei));

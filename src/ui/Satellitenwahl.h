@@ -7,8 +7,6 @@
 
 #include "planung/einstellungen_rover.h"
 
-class QCheckBox;
-
 namespace jorv {
 
 class Satellitenwahl final : public QGroupBox {

@@ -1,9 +1,12 @@
 #include "ui/frmBasisDialog.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 
 #include "ui/Dialogbau.h"
 #include "ui/qtext.h"

@@ -6,6 +6,8 @@
 #include "planung/basisdialog.h"
 
 class QComboBox;
+class QLabel;
+class QPushButton;
 
 namespace jorv {
 

@@ -1,7 +1,12 @@
 #include "ui/frmEinstellungen.h"
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <array>
 
 #include "ui/Dialogbau.h"
 #include "ui/Satellitenwahl.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <vector>
 
 #include "planung/einstellungen_rover.h"
 

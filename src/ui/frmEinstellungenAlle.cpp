@@ -1,7 +1,11 @@
 #include "ui/frmEinstellungenAlle.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <array>
 
 #include "ui/Dialogbau.h"
 #include "ui/Satellitenwahl.h"

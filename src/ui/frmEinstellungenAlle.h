@@ -6,6 +6,7 @@
 #include "planung/einstellungen_alle.h"
 
 class QGridLayout;
+class QPushButton;
 
 namespace jorv {
 

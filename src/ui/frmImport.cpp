@@ -1,5 +1,11 @@
 #include "ui/frmImport.h"
 
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
 #include "projekt/importieren.h"
 #include "ui/Dialogbau.h"
 #include "ui/qtext.h"

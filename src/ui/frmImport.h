@@ -7,6 +7,9 @@
 #include "projekt/import_felder.h"
 
 class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
 
 namespace jorv {
 

@@ -153,7 +153,7 @@ TEST(Einstellungsfenster, NimmtMitOkAllesAusserZeitenUndIntervall)
         for (const auto& [name, text] : {std::pair("txt_starttime", "100000"),
                                          {"txt_endtime", "113000"},
                                          {"txt_epochrate", ""},
-                                         {"txt_elevation", "0"}})
+                                         {"txt_elevation", "5"}})
             EXPECT_EQ(inhalt(fenster, name), text) << name;
         eintragen(fenster, "txt_starttime", "101500");
         eintragen(fenster, "txt_epochrate", "7");
@@ -304,6 +304,7 @@ TEST(Importfenster, PasstNenntWasNichtStimmtBietetAbhilfeUndImportiert)
 {
     Fensterprobe p;
     ASSERT_EQ(Verfahren_anlegen(p.g, {"Nord", p.ordner.dos() + "\\nord", "1"}), Fehler::keiner);
+    p.ohne_verfahren();
     fs::rename(p.pfad("nord"), p.pfad("umgezogen"));
     p.zeigen();
     Drehbuch b;

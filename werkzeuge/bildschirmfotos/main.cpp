@@ -16,7 +16,9 @@
 #include "ui/Baumansicht.h"
 #include "ui/Fensterschirm.h"
 #include "ui/Kartenansicht.h"
+#include "ui/frmBasisDialog.h"
 #include "ui/frmHauptform.h"
+#include "ui/frmImport.h"
 
 namespace {
 
@@ -126,6 +128,13 @@ int main(int anzahl, char** werte)
     fotograf.befehle({"m_datei_neu", "m_datei_laden", "m_datei_rinex", "m_datei_antenne", "m_datei_importieren",
                       "m_datei_loeschen", "m_grund_EinstellungenAlle", "m_grafik_zeiten", "m_protkoll_kurz",
                       "m_protkoll_einsehen", "m_hilfe_handbuch", "m_hilfe_neuerungen"});
+    if (const auto* rover = g.baum.finden("R_Datei"); rover && !rover->Kinder.empty())
+        fotograf.fotos(QStringLiteral("frmEinstellungen"), [&] {
+            form.baumbefehl("mnu_tree_settings", std::string(rover->Kinder.front().Text), rover->Text);
+        });
+    fotograf.fotos(QStringLiteral("frmImport"),
+                   [&] { jorv::frmImport(g, jorv::import_laden(g, g.Verfahrensdatei), &form).exec(); });
+    fotograf.fotos(QStringLiteral("frmBasisDialog"), [&] { jorv::frmBasisDialog(g, &form).exec(); });
     for (const auto& gruppe : g.baum.Knoten) {
         if (gruppe.Kinder.empty()) continue;
         const std::string knoten = gruppe.Kinder.front().Text, eltern = gruppe.Text;

@@ -7,7 +7,6 @@
 #include "daten/dateiauswahl.h"
 #include "plattform/pfad.h"
 #include "projekt/import_felder.h"
-#include "ui/frmHauptform.h"
 #include "ui/frmImport.h"
 #include "ui/qtext.h"
 
@@ -32,11 +31,10 @@ QStringList namensfilter(std::string_view filter)
 }
 
 // An existing file as a DOS path; nothing when the dialog was cancelled or its name can't be used.
-std::optional<std::string> datei_waehlen(frmHauptform& form, const char* name, std::string_view titel,
+std::optional<std::string> datei_waehlen(Global& g, QWidget* eltern, const char* name, std::string_view titel,
                                          std::string_view filter, std::string_view verzeichnis)
 {
-    Global& g = form.g();
-    QFileDialog wahl(&form, anzeige(titel));
+    QFileDialog wahl(eltern, anzeige(titel));
     wahl.setObjectName(QLatin1String(name));
     wahl.setFileMode(QFileDialog::ExistingFile);
     wahl.setNameFilters(namensfilter(filter));
@@ -47,29 +45,28 @@ std::optional<std::string> datei_waehlen(frmHauptform& form, const char* name, s
 
 }  // namespace
 
-void m_datei_importieren(frmHauptform& form)
+void m_datei_importieren(Global& g, QWidget* eltern)
 {
     const auto datei =
-        datei_waehlen(form, "importdatei", import_auswahl_titel, import_auswahl_filter, form.g().Datei_Verzeichnis);
+        datei_waehlen(g, eltern, "importdatei", import_auswahl_titel, import_auswahl_filter, g.Datei_Verzeichnis);
     if (!datei) return;
-    if (auto import = m_datei_importieren(form.g(), *datei)) frmImport(form.g(), std::move(*import), &form).exec();
+    if (auto import = m_datei_importieren(g, *datei)) frmImport(g, std::move(*import), eltern).exec();
 }
 
-void m_datei_basis_liste(frmHauptform& form)
+void m_datei_basis_liste(Global& g, QWidget* eltern)
 {
-    const auto datei = datei_waehlen(form, "basisliste", basisliste_auswahl_titel, basisliste_auswahl_filter,
-                                     form.g().Datei_Verzeichnis);
-    if (datei) static_cast<void>(m_datei_basis_liste(form.g(), *datei));
+    const auto datei = datei_waehlen(g, eltern, "basisliste", basisliste_auswahl_titel, basisliste_auswahl_filter,
+                                     g.Datei_Verzeichnis);
+    if (datei) static_cast<void>(m_datei_basis_liste(g, *datei));
 }
 
-void m_protkoll_editieren(frmHauptform& form)
+void m_protkoll_editieren(Global& g, std::string& editierte_datei, QWidget* eltern)
 {
-    const auto verzeichnis =
-        form.editierte_datei.empty() ? form.g().Arbeitsverzeichnis : std::string(pfad_ordner(form.editierte_datei));
-    const auto datei = datei_waehlen(form, "editieren", editieren_titel, basisliste_auswahl_filter, verzeichnis);
+    const auto verzeichnis = editierte_datei.empty() ? g.Arbeitsverzeichnis : std::string(pfad_ordner(editierte_datei));
+    const auto datei = datei_waehlen(g, eltern, "editieren", editieren_titel, basisliste_auswahl_filter, verzeichnis);
     if (!datei) return;
-    form.editierte_datei = *datei;
-    static_cast<void>(datei_editieren(form.g(), *datei));
+    editierte_datei = *datei;
+    static_cast<void>(datei_editieren(g, *datei));
 }
 
 }  // namespace jorv

@@ -113,8 +113,8 @@ constexpr std::array befehle = {
     Befehl{"m_hilfe_handbuch", handbuch_oeffnen},
     Befehl{"m_grund_editor", m_grund_editor},
     Befehl{"m_hilfe_neuerungen", [](frmHauptform& form) { frmErstStart(form.g(), &form).exec(); }},
-    Befehl{"m_datei_importieren", m_datei_importieren},
-    Befehl{"m_datei_basis_liste", m_datei_basis_liste},
+    Befehl{"m_datei_importieren", [](frmHauptform& form) { m_datei_importieren(form.g(), &form); }},
+    Befehl{"m_datei_basis_liste", [](frmHauptform& form) { m_datei_basis_liste(form.g(), &form); }},
     Befehl{"m_datei_basis_dialog", [](frmHauptform& form) { frmBasisDialog(form.g(), &form).exec(); }},
     Befehl{"m_grund_EinstellungenAlle", m_grund_EinstellungenAlle},
     Befehl{"m_wasoft_run_n", [](frmHauptform& form) { static_cast<void>(m_wasoft_run_n(form.g())); }},
@@ -129,7 +129,8 @@ constexpr std::array befehle = {
     Befehl{"m_basis_lovena", kern<m_basis_lovena>},
     Befehl{"m_wasoft_runa", kern<m_wasoft_runa>},
     Befehl{"m_wasoft_holbek", kern<m_wasoft_holbek>},
-    Befehl{"m_protkoll_editieren", m_protkoll_editieren},
+    Befehl{"m_protkoll_editieren",
+           [](frmHauptform& form) { m_protkoll_editieren(form.g(), form.editierte_datei, &form); }},
 };
 
 constexpr std::array protokollbefehle = {std::string_view("m_protkoll_einsehen"), std::string_view("m_protkoll_kurz"),

@@ -40,7 +40,7 @@ frmEinstellungen::frmEinstellungen(Global& g, Rovereinstellungen einstellungen, 
     setObjectName(QStringLiteral("frmEinstellungen"));
     setWindowTitle(anzeige(m_e.Titel));
     auto* links = new QGridLayout;
-    links->setVerticalSpacing(abstand_gruppe);
+    links->setSpacing(abstand_gruppe);
     felder_anlegen(*links);
     auto* rechts = new QVBoxLayout;
     rechts->setSpacing(abstand_gruppen);

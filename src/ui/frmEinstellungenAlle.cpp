@@ -39,7 +39,7 @@ frmEinstellungenAlle::frmEinstellungenAlle(Global& g, EinstellungenAlle einstell
     setObjectName(QStringLiteral("frmEinstellungenAlle"));
     setWindowTitle(anzeige(einstellungen_alle_titel));
     auto* raster = new QGridLayout;
-    raster->setVerticalSpacing(abstand_gruppe);
+    raster->setSpacing(abstand_gruppe);
     felder_anlegen(*raster);
     QPushButton* satellit = knopf(Alleknopf::cmd_satellit, "cmd_satellit", QStringLiteral("Satelliten"));
     auto* satelliten = new Satellitenwahl(m_e.satelliten, this);

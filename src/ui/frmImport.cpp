@@ -20,6 +20,8 @@ struct Feldzeile {
     const char16_t* text;
     int zeichen;  // width of the box
 };
+// Boxes from this width on grow with the window.
+constexpr int langes_feld = 40;
 constexpr std::array<Feldzeile, importfelder> feldzeilen = {
     {{Importfeld::name, "txt_name", u"&Name:", 40},
      {Importfeld::nummer, "txt_verf_nummer", u"N&ummer:", 5},
@@ -90,10 +92,12 @@ void frmImport::felder_anlegen(QGridLayout& raster)
     for (std::size_t i = 0; i < importfelder; ++i) {
         const auto& z = feldzeilen[i];
         auto* feld = benannt(new QLineEdit(anzeige(m_import.wert(z.feld)), this), z.name);
-        feld->setFixedWidth(fontMetrics().averageCharWidth() * z.zeichen + rand);
+        const int breite = fontMetrics().averageCharWidth() * z.zeichen + rand;
+        feld->setMinimumWidth(breite);
+        if (z.zeichen < langes_feld) feld->setMaximumWidth(breite);
         m_felder[i] = feld;
         raster.addWidget(beschriftung(QString::fromUtf16(z.text), feld), zeile, 0);
-        raster.addWidget(feld, zeile, 1, Qt::AlignLeft);
+        raster.addWidget(feld, zeile, 1);
         connect(feld, &QLineEdit::textEdited, this, [this, feld = z.feld](const QString& text) {
             import_setzen(m_g, m_import, feld, eingabe(text));
             zeigen();
@@ -102,6 +106,7 @@ void frmImport::felder_anlegen(QGridLayout& raster)
         ++zeile;
         if (z.feld == Importfeld::modus) raster.addWidget(lbl_modus, zeile++, 1, 1, 3);
     }
+    raster.setColumnStretch(1, 1);
     lbl_modus->setWordWrap(true);
     lbl_modus->setMinimumHeight(2 * fontMetrics().lineSpacing());
 }
@@ -136,6 +141,8 @@ void frmImport::zeigen()
 {
     for (std::size_t i = 0; i < importfelder; ++i)
         if (const QString text = anzeige(m_import.neu[i]); m_felder[i]->text() != text) m_felder[i]->setText(text);
+    QLineEdit* verzeichnis = m_felder[static_cast<std::size_t>(Importfeld::verzeichnis)];
+    verzeichnis->setToolTip(verzeichnis->text());
     for (std::size_t i = 0; i < importstellen; ++i) {
         const Importurteil& urteil = m_import.urteile[i];
         m_urteile[i]->setText(anzeige(urteil.status));

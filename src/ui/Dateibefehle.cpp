@@ -38,7 +38,7 @@ std::optional<std::string> datei_waehlen(Global& g, QWidget* eltern, const char*
     wahl.setObjectName(QLatin1String(name));
     wahl.setFileMode(QFileDialog::ExistingFile);
     wahl.setNameFilters(namensfilter(filter));
-    if (!verzeichnis.empty()) wahl.setDirectory(QString::fromStdString(g.dateien.host(verzeichnis).string()));
+    if (!verzeichnis.empty()) wahl.setDirectory(QString::fromStdU16String(g.dateien.host(verzeichnis).u16string()));
     if (wahl.exec() != QDialog::Accepted || wahl.selectedFiles().isEmpty()) return std::nullopt;
     return gewaehlte_datei(g, wahl.selectedFiles().constFirst().toStdU16String());
 }

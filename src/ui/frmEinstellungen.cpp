@@ -8,6 +8,9 @@
 #include <QPushButton>
 #include <array>
 
+#include "modell/Baum.h"
+#include "modell/Gemeinsam.h"
+#include "ui/Bilder.h"
 #include "ui/Dialogbau.h"
 #include "ui/Satellitenwahl.h"
 #include "ui/Zahlenbox.h"
@@ -86,13 +89,16 @@ QWidget* frmEinstellungen::ampel()
         benannt(new QLabel(QStringLiteral("Bedeutung der aktuellen Ampelschaltung:"), feld), "lbl_ueb_ampelinfo");
     auto* text = benannt(new QLabel(anzeige(m_e.ampelinfo), feld), "lbl_ampelinfo");
     text->setTextFormat(Qt::PlainText);
-    auto* spalte = new QVBoxLayout(feld);
-    spalte->setContentsMargins(0, 0, 0, 0);
-    spalte->setSpacing(abstand_gruppe);
-    for (QLabel* label : {ueberschrift, text}) {
-        label->setVisible(m_e.ampelinfo_sichtbar);
-        spalte->addWidget(label);
-    }
+    auto* bild = benannt(new QLabel(feld), "bild_ampel");
+    bild->setPixmap(baumbild(rover_bild(m_g, Index_OBS_R(m_g, m_e.ROVER_Dateiname))).pixmap(16));
+    auto* raster = new QGridLayout(feld);
+    raster->setContentsMargins(0, 0, 0, 0);
+    raster->setSpacing(abstand_gruppe);
+    raster->addWidget(ueberschrift, 0, 0, 1, 2);
+    raster->addWidget(bild, 1, 0, Qt::AlignTop);
+    raster->addWidget(text, 1, 1);
+    raster->setColumnStretch(1, 1);
+    for (QLabel* label : {ueberschrift, bild, text}) label->setVisible(m_e.ampelinfo_sichtbar);
     return feld;
 }
 

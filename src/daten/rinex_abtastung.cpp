@@ -8,6 +8,7 @@
 #include "daten/dateistand.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
+#include "plattform/kalender.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
@@ -48,6 +49,27 @@ std::int32_t satelliten_zahl(std::string_view zeile)
         zahl = 10 * zahl + (z - '0');
     }
     return zahl;
+}
+
+// Two digits, the first of which may be blank; -1 for anything else.
+int zweistellig(std::string_view zeile, std::size_t spalte)
+{
+    const auto feld = mitte(zeile, spalte, 2);
+    const auto ziffer = [](char z) { return z >= '0' && z <= '9'; };
+    if (feld.size() != 2 || !ziffer(feld[1]) || !(ziffer(feld[0]) || feld[0] == ' ')) return -1;
+    return (feld[0] == ' ' ? 0 : 10 * (feld[0] - '0')) + (feld[1] - '0');
+}
+
+// " yy mm dd hh mm ss.sssssss": years from 80 on are of the last century.
+std::optional<double> epochenzeit(std::string_view zeile)
+{
+    constexpr int jahrhundertwende = 80;
+    const int jahr = zweistellig(zeile, 2), monat = zweistellig(zeile, 5), tag = zweistellig(zeile, 8),
+              stunde = zweistellig(zeile, 11), minute = zweistellig(zeile, 14);
+    if (jahr < 0 || monat < 1 || monat > 12 || tag < 1 || tag > 31 || stunde < 0 || minute < 0) return std::nullopt;
+    const std::int64_t ganze =
+        sekunden_seit_1970({jahr + (jahr < jahrhundertwende ? 2000 : 1900), monat, tag, stunde, minute, 0});
+    return static_cast<double>(ganze) + zahl_lesen(mitte(zeile, 16, 11));
 }
 
 // Finds the epoch lines among the lines that it is shown.
@@ -93,7 +115,10 @@ private:
 // The walk that gathers the satellites.
 class Satellitengang {
 public:
-    explicit Satellitengang(std::int64_t zeilen_je_satellit) : m_je_satellit(zeilen_je_satellit) {}
+    Satellitengang(std::int64_t zeilen_je_satellit, std::vector<Epoche>* folge)
+        : m_je_satellit(zeilen_je_satellit), m_folge(folge)
+    {
+    }
     void nehmen(std::string_view zeile)
     {
         if (ausstehend > 0) {
@@ -103,6 +128,8 @@ public:
         } else if (m_sucher.ist_epoche(zeile)) {
             m_anzahl = m_rest = satelliten_zahl(zeile);
             m_in_epoche = 0;
+            if (m_folge)
+                if (const auto zeit = epochenzeit(zeile)) m_folge->push_back({*zeit, m_anzahl});
             namen_nehmen(zeile);
         }
     }
@@ -141,6 +168,7 @@ private:
     }
 
     std::int64_t m_je_satellit;
+    std::vector<Epoche>* m_folge;
     std::int32_t m_anzahl = 0, m_rest = 0;
     int m_in_epoche = 0;
     Epochensucher m_sucher;
@@ -192,13 +220,23 @@ std::int32_t typen_lesen(std::string_view zeile)
     return ganz32(zahl_lesen(ersetzt(std::string(links(zeile, 6)), ',', '.'))).value_or(0);
 }
 
-Epochen epochen_abtasten(Zeilenstrom& strom, std::int32_t typen)
+std::int32_t kopf_uebergehen(Zeilenstrom& strom)
+{
+    std::int32_t typen = 0;
+    while (const auto zeile = strom.naechste()) {
+        if (ist_kopfzeile(*zeile, "# / TYPES OF OBSERV") && typen == 0) typen = typen_lesen(*zeile);
+        if (ist_kopfzeile(*zeile, "END OF HEADER")) break;
+    }
+    return typen;
+}
+
+Epochen epochen_abtasten(Zeilenstrom& strom, std::int32_t typen, std::vector<Epoche>* folge)
 {
     // Rounded down, also for a negative count.
     const std::int64_t vier_mehr = std::int64_t{typen} + 4;
     const std::int64_t je_satellit = vier_mehr >= 0 ? vier_mehr / 5 : -((4 - vier_mehr) / 5);
     Endzeitgang endzeit(je_satellit);
-    Satellitengang satelliten(je_satellit);
+    Satellitengang satelliten(je_satellit, folge);
     while (const auto zeile = strom.naechste()) {
         endzeit.nehmen(*zeile);
         satelliten.nehmen(*zeile);

@@ -38,13 +38,23 @@ bool ist_kopfzeile(std::string_view zeile, std::string_view marke);
 /// The count of observation types of a "# / TYPES OF OBSERV" line; 0 when it holds no usable number.
 std::int32_t typen_lesen(std::string_view zeile);
 
+/// Passes over the header and gives the count of observation types that it states.
+std::int32_t kopf_uebergehen(Zeilenstrom& strom);
+
 struct Epochen {
     std::string_view letzte_Zeile;        ///< of the last epoch, as it stands in the file; empty when there is none
     std::vector<std::string> Satelliten;  ///< distinct, in the order of their appearance, at most 70
 };
 
-/// Walks the data section from the stream's place to the end of the file.
-Epochen epochen_abtasten(Zeilenstrom& strom, std::int32_t typen);
+/// One epoch of the data section.
+struct Epoche {
+    double Sekunden = 0;  ///< since 1970 in the file's time scale
+    std::int32_t Satelliten = 0;
+};
+
+/// Walks the data section from the stream's place to the end of the file. With `folge` every epoch whose time can be
+/// read is put there, in file order.
+Epochen epochen_abtasten(Zeilenstrom& strom, std::int32_t typen, std::vector<Epoche>* folge = nullptr);
 
 /// A mapped observation file of the project directory.
 struct Beobachtungsdatei {

@@ -28,11 +28,7 @@ void einsortieren(ROVER_Settings_Satz& satz, const std::string& satellit)
 std::vector<std::string> inventar(std::string_view text)
 {
     Zeilenstrom strom(text);
-    std::int32_t typen = 0;
-    while (const auto zeile = strom.naechste()) {
-        if (ist_kopfzeile(*zeile, "# / TYPES OF OBSERV") && typen == 0) typen = typen_lesen(*zeile);
-        if (ist_kopfzeile(*zeile, "END OF HEADER")) break;
-    }
+    const std::int32_t typen = kopf_uebergehen(strom);
     return epochen_abtasten(strom, typen).Satelliten;
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
@@ -18,6 +19,15 @@ struct Art {
     int nummer_weitere;
     bool erster_gilt;  ///< the first record replaces both ends of the axis
 };
+
+// The light that the rover has in the tree.
+Zeilenfarbe lichtfarbe(const Global& g, int rover)
+{
+    constexpr std::array<Zeilenfarbe, 4> farben = {Zeilenfarbe::grau, Zeilenfarbe::gruen, Zeilenfarbe::gelb,
+                                                   Zeilenfarbe::rot};
+    const auto bild = static_cast<std::size_t>(rover_bild(g, rover));
+    return bild < farben.size() ? farben[bild] : Zeilenfarbe::grau;
+}
 
 bool ganzes_Verfahren(const Global& g)
 {
@@ -52,9 +62,12 @@ Fehler zeilen_fuellen(Global& g, const Art& art, Gesamtuebersicht& u)
     if (!art.ziel->groesse_setzen(0))
         return gescheitert(g, u,
                            dimensionierung_meldung(5, "detail_menge", verkettet("    ReDim ", art.feldname, "(1)")));
-    for (const OBS& obs : *art.quelle) {
+    const bool rover = art.quelle == &g.OBS_R;
+    for (int i = 1; i <= art.quelle->anzahl(); ++i) {
+        const OBS& obs = (*art.quelle)[i];
         if (!gehoert_dazu(g, obs)) continue;
         Uebersichtszeile z;
+        z.farbe = rover ? lichtfarbe(g, i) : Zeilenfarbe::blau;
         z.Dateiname = obs.Dateiname;
         z.Beginn = obs.Startzeit();
         z.Ende = obs.Endzeit();
@@ -98,6 +111,12 @@ Fehler gesamtuebersicht_oeffnen(Global& g, Gesamtuebersicht& u)
     for (const auto& art : arten)
         if (ist_fehler(zeilen_fuellen(g, art, u))) return Fehler::gesetzt;
     return zeitfenster(g, u);
+}
+
+Fehler m_grafik_zeiten(Global& g, int eintrag, Gesamtuebersicht& u)
+{
+    g.zeit_tag = static_cast<std::int16_t>(eintrag);
+    return gesamtuebersicht_oeffnen(g, u);
 }
 
 }  // namespace jorv

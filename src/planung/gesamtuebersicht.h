@@ -15,6 +15,7 @@ struct Uebersichtszeile {
     std::string Dateiname;
     Zeitpunkt Beginn, Ende;  ///< first and last epoch
     std::string Hinweis;     ///< tool tip
+    Zeilenfarbe farbe = Zeilenfarbe::grau;
     Balken balken;
 };
 
@@ -31,5 +32,8 @@ struct Gesamtuebersicht {
 /// set the axis as soon as the first one belongs, so a rover may lie outside. An array that can't grow shows its
 /// message and leaves no rows.
 Fehler gesamtuebersicht_oeffnen(Global& g, Gesamtuebersicht& u);
+
+/// The command of entry `eintrag` of m_grafik_zeiten: day g.tage[eintrag], the whole project with 0. Then as above.
+Fehler m_grafik_zeiten(Global& g, int eintrag, Gesamtuebersicht& u);
 
 }  // namespace jorv

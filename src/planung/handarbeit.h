@@ -12,10 +12,6 @@
 
 namespace jorv {
 
-/// Colour of a row's bar. Rows of stations: grau not chosen, gelb chosen. The rover's row: gruen enough chosen, gelb
-/// too few, rot no usable choice.
-enum class Zeilenfarbe { grau, gelb, gruen, rot };
-
 struct Handzeile {
     std::string Dateiname, Punktkennzeichen, Tag;
     double Rechtswert = 0, Hochwert = 0;  ///< metres

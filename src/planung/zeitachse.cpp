@@ -25,7 +25,35 @@ Zeitachse::Zeitachse(const Zeitpunkt& von, const Zeitpunkt& bis, double rand)
 
 double Zeitachse::anteil(const Zeitpunkt& zeit) const
 {
-    return m_laenge > 0 ? (static_cast<double>(sekunden_seit_1970(zeit)) - m_beginn) / m_laenge : 0;
+    return anteil(static_cast<double>(sekunden_seit_1970(zeit)));
+}
+
+double Zeitachse::anteil(double sekunden_seit_1970) const
+{
+    return m_laenge > 0 ? (sekunden_seit_1970 - m_beginn) / m_laenge : 0;
+}
+
+Zeitpunkt Zeitachse::zeit(double anteil) const
+{
+    return zeitpunkt_aus_sekunden(std::llround(m_beginn + anteil * m_laenge));
+}
+
+Zeitachse Zeitachse::ausschnitt(double von, double bis) const
+{
+    Zeitachse teil;
+    teil.m_beginn = m_beginn + von * m_laenge;
+    teil.m_laenge = (bis - von) * m_laenge;
+    return teil;
+}
+
+std::vector<double> Zeitachse::raster(int minuten) const
+{
+    std::vector<double> alle;
+    if (m_laenge <= 0 || minuten < 1) return alle;
+    const double schritt = 60.0 * minuten;
+    for (double zeit = std::ceil(m_beginn / schritt) * schritt; zeit <= m_beginn + m_laenge; zeit += schritt)
+        alle.push_back(anteil(zeit));
+    return alle;
 }
 
 Balken Zeitachse::balken(const Zeitpunkt& von, const Zeitpunkt& bis) const

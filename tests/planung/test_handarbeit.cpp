@@ -54,6 +54,11 @@ TEST_F(Handarbeiten, BietetWahreUeberlappungenAn)
     std::string marken;
     for (const auto& m : h.achse.marken(8)) marken += m.Text + " ";
     EXPECT_EQ(marken, "10:00 10:15 10:30 10:45 11:00 11:15 11:30 ");
+    const Zeitachse mitte = h.achse.ausschnitt(0.5, 0.9);  // 10:45 to 11:30
+    EXPECT_EQ(zeitmarke_text(mitte.zeit(0)) + uhrzeit_text(mitte.zeit(1)), "10:4511:30:00");
+    EXPECT_EQ(mitte.raster(15).size(), 4u);
+    ASSERT_EQ(mitte.raster(60).size(), 1u);
+    EXPECT_NEAR(mitte.raster(60)[0], 1 / 3.0, 1e-9);
     const auto a = handarbeit_ausschnitt(h);
     EXPECT_EQ(a.Rechtswert_min + a.Rechtswert_max + a.Hochwert_min + a.Hochwert_max, 50 + 150 + 100 + 300);
 }
@@ -132,9 +137,8 @@ TEST(Gesamtuebersicht, ZeigtVerfahrenTagUndFremdeAchse)
                   {"4", 1, "für Tag: 1", "10:00", "11:00", 1, 0, 0}};
     for (const auto& f : faelle) {
         p.g.Verfahrensmodus = f.modus;
-        p.g.zeit_tag = f.zeit_tag;
         Gesamtuebersicht u;
-        ASSERT_EQ(gesamtuebersicht_oeffnen(p.g, u), Fehler::keiner);
+        ASSERT_EQ(m_grafik_zeiten(p.g, f.zeit_tag, u), Fehler::keiner);
         EXPECT_EQ(utf8_aus_1252(u.Titel), verkettet("Zeitenübersicht ", f.titel));
         EXPECT_EQ(zeitmarke_text(u.frueheste) + zeitmarke_text(u.spaeteste), verkettet(f.von, f.bis)) << f.modus;
         EXPECT_EQ(verkettet(u.zeit_r.anzahl(), u.zeit_s.anzahl(), u.zeit_v.anzahl(), u.pos_s.letztes()),

@@ -20,6 +20,9 @@ struct Punktmarke {
     Farbe hintergrund;
 };
 
+/// Puts the label four symbol radii to the right of the pointer and below it.
+void marke_zeichnen(const Punktmarke& marke, const Bildort& zeiger, const Ansicht& ansicht, Zeichenliste& bild);
+
 class Karte {
 public:
     explicit Karte(Global& g) : m_g(g) {}

@@ -70,22 +70,26 @@ void Karte::figur_zeichnen(Zeichenliste& bild) const
     if (figur.Anzahl > 1) bild.push_back({ebene, Linie{spitze, ort(1), gepunktet}});
 }
 
-// Four symbol radii to the right of the pointer and below it; on the other side where the picture ends.
 void Karte::marke_zeichnen(Zeichenliste& bild) const
 {
-    if (!m_marke || !m_zeiger || m_zoom) return;
+    if (m_marke && m_zeiger && !m_zoom) jorv::marke_zeichnen(*m_marke, *m_zeiger, m_ansicht, bild);
+}
+
+// On the other side where the picture ends.
+void marke_zeichnen(const Punktmarke& marke, const Bildort& zeiger, const Ansicht& ansicht, Zeichenliste& bild)
+{
     constexpr double weit = 4 * Ansicht::symbol;
-    const double breite = schriftbreite(m_marke->text, schrift_hinweis) + 2 * textrand;
+    const double breite = schriftbreite(marke.text, schrift_hinweis) + 2 * textrand;
     const double hoehe = schrifthoehe(schrift_hinweis);
-    const auto stelle = [](double zeiger, double laenge, double ende) {
-        return zeiger + weit + laenge <= ende ? weit : -weit - laenge;
+    const auto stelle = [](double ort, double laenge, double ende) {
+        return ort + weit + laenge <= ende ? weit : -weit - laenge;
     };
     Schrift schrift;
-    schrift.ort = *m_zeiger;
-    schrift.abstand = {stelle(m_zeiger->x, breite, m_ansicht.breite()), stelle(m_zeiger->y, hoehe, m_ansicht.hoehe())};
-    schrift.text = m_marke->text;
+    schrift.ort = zeiger;
+    schrift.abstand = {stelle(zeiger.x, breite, ansicht.breite()), stelle(zeiger.y, hoehe, ansicht.hoehe())};
+    schrift.text = marke.text;
     schrift.groesse = schrift_hinweis;
-    schrift.hintergrund = m_marke->hintergrund;
+    schrift.hintergrund = marke.hintergrund;
     bild.push_back({ebene, std::move(schrift)});
 }
 

@@ -108,6 +108,7 @@ constexpr std::array befehle = {
     Befehl{"m_grafik_ablage", [](frmHauptform& form) { form.karte_in_ablage(); }},
     Befehl{"m_grafik_speichern", [](frmHauptform& form) { form.karte_speichern(); }},
     Befehl{"m_grafik_leiste", [](frmHauptform& form) { form.leiste_umschalten(); }},
+    Befehl{"m_grafik_zeiten", [](frmHauptform& form) { form.zeiten_zeigen(0); }},
     Befehl{"m_geo_definieren", kern<m_geo_definieren>},
     Befehl{"m_geo_loeschen", kern<m_geo_loeschen>},
     Befehl{"m_hilfe_handbuch", handbuch_oeffnen},
@@ -161,6 +162,10 @@ bool menuebefehl_ausfuehren(frmHauptform& form, std::string_view name)
         static_cast<void>(m_dateien_verfahren(form.g(), n));
         return true;
     }
+    if (const int n = nummer(name, "m_grafik_zeiten")) {
+        form.zeiten_zeigen(n);
+        return true;
+    }
     return false;
 }
 
@@ -169,7 +174,7 @@ bool menuebefehl_vorhanden(std::string_view name)
     const auto gleich = [=](const auto& befehl) { return befehl.name == name; };
     return std::any_of(befehle.begin(), befehle.end(), gleich) ||
            std::find(protokollbefehle.begin(), protokollbefehle.end(), name) != protokollbefehle.end() ||
-           nummer(name, "m_dateien_verfahren") != 0;
+           nummer(name, "m_dateien_verfahren") != 0 || nummer(name, "m_grafik_zeiten") != 0;
 }
 
 }  // namespace jorv

@@ -31,6 +31,9 @@
 #include "ui/Menuebefehle.h"
 #include "ui/frmEinstellungen.h"
 #include "ui/frmErstStart.h"
+#include "ui/frmgesamt.h"
+#include "ui/frmhandarbeit.h"
+#include "ui/frmhinweis.h"
 #include "ui/qtext.h"
 
 namespace jorv {
@@ -207,10 +210,17 @@ void frmHauptform::baumbefehl(const std::string& name, const std::string& knoten
 
 void frmHauptform::baumfolge(const Baumfolge& folge, const std::string& knoten)
 {
+    if (folge.frmhinweis) frmhinweis::zeigen(m_g, this);
     if (folge.dialog == Baumdialog::einstellungen) frmEinstellungen::zeigen(m_g, knoten, this);
+    if (folge.dialog == Baumdialog::handarbeit) frmhandarbeit::zeigen(m_g, m_dichten, knoten, this);
     if (folge.Punkte.empty()) return;
     pic_grafik->karte().basislinie_markieren(knoten);
     pic_grafik->erneuern();
+}
+
+void frmHauptform::zeiten_zeigen(int eintrag)
+{
+    frmgesamt::zeigen(m_g, m_dichten, eintrag, this);
 }
 
 void frmHauptform::stationsmenue_zeigen(int station, QPoint ort)

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "daten/datendichte.h"
 #include "modell/Global.h"
 #include "ui/Menueleiste.h"
 
@@ -47,6 +48,8 @@ public:
     void karte_in_ablage();
     void karte_speichern();
     void leiste_umschalten();
+    /// The time overview of entry `eintrag` of m_grafik_zeiten, 0 for the whole project.
+    void zeiten_zeigen(int eintrag);
     /// A command of the context menu of a node.
     void baumbefehl(const std::string& name, const std::string& knoten, const std::string& eltern);
 
@@ -82,6 +85,7 @@ private:
     QSplitter* m_teiler;
     QToolBar* m_leiste;
     QLabel *m_verfahren, *m_zaehler, *m_zeiger;
+    Datendichten m_dichten;
     std::string m_logo_datei;
     bool m_aktiviert = false, m_befehl_laeuft = false;
 };

@@ -140,6 +140,9 @@ int main(int anzahl, char** werte)
         const std::string knoten = gruppe.Kinder.front().Text, eltern = gruppe.Text;
         fotograf.fotos(QStringLiteral("kontext_") + QString::fromStdString(gruppe.Schluessel),
                        [&] { form.baum().bei_kontext(knoten, eltern, form.mapToGlobal(QPoint(80, 120))); });
+        fotograf.fotos(
+            QStringLiteral("klick_") + QString::fromStdString(gruppe.Schluessel),
+            [&] { form.baum().bei_klick(knoten, eltern); }, false);
     }
     std::printf("%d Bilder in %s\n", fotograf.anzahl(), qPrintable(worte[2]));
     return 0;

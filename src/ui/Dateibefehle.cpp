@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 
+#include "app/neuerungen.h"
 #include "auswertung/protokolle.h"
 #include "daten/beziehungsliste.h"
 #include "daten/dateiauswahl.h"
@@ -14,7 +15,8 @@ namespace jorv {
 
 namespace {
 
-constexpr std::string_view editieren_titel = "beliebige Datei editieren";
+constexpr std::string_view editieren_titel = "beliebige Datei editieren", editor_titel = u8"Editor auswählen"_w,
+                           editor_filter = "Programme (*.exe)|*.exe|Alle Dateien (*.*)|*.*";
 
 // The patterns of "Name (*.ini)|*.ini| Name (*.*)|*.*" by their names; every file is meant by "*.*", also one without a
 // point.
@@ -30,9 +32,9 @@ QStringList namensfilter(std::string_view filter)
     return namen;
 }
 
-// An existing file as a DOS path; nothing when the dialog was cancelled or its name can't be used.
-std::optional<std::string> datei_waehlen(Global& g, QWidget* eltern, const char* name, std::string_view titel,
-                                         std::string_view filter, std::string_view verzeichnis)
+// An existing file; nothing when the dialog was cancelled.
+std::optional<std::u16string> datei_zeigen(Global& g, QWidget* eltern, const char* name, std::string_view titel,
+                                           std::string_view filter, std::string_view verzeichnis)
 {
     QFileDialog wahl(eltern, anzeige(titel));
     wahl.setObjectName(QLatin1String(name));
@@ -40,7 +42,15 @@ std::optional<std::string> datei_waehlen(Global& g, QWidget* eltern, const char*
     wahl.setNameFilters(namensfilter(filter));
     if (!verzeichnis.empty()) wahl.setDirectory(QString::fromStdU16String(g.dateien.host(verzeichnis).u16string()));
     if (wahl.exec() != QDialog::Accepted || wahl.selectedFiles().isEmpty()) return std::nullopt;
-    return gewaehlte_datei(g, wahl.selectedFiles().constFirst().toStdU16String());
+    return wahl.selectedFiles().constFirst().toStdU16String();
+}
+
+// The same as a DOS path; nothing also when its name can't be used.
+std::optional<std::string> datei_waehlen(Global& g, QWidget* eltern, const char* name, std::string_view titel,
+                                         std::string_view filter, std::string_view verzeichnis)
+{
+    const auto datei = datei_zeigen(g, eltern, name, titel, filter, verzeichnis);
+    return datei ? gewaehlte_datei(g, *datei) : std::nullopt;
 }
 
 }  // namespace
@@ -58,6 +68,12 @@ void m_datei_basis_liste(Global& g, QWidget* eltern)
     const auto datei = datei_waehlen(g, eltern, "basisliste", basisliste_auswahl_titel, basisliste_auswahl_filter,
                                      g.Datei_Verzeichnis);
     if (datei) static_cast<void>(m_datei_basis_liste(g, *datei));
+}
+
+void m_grund_editor(Global& g, QWidget* eltern)
+{
+    if (const auto programm = datei_zeigen(g, eltern, "editor", editor_titel, editor_filter, {}))
+        static_cast<void>(Editor_setzen(g, *programm));
 }
 
 void m_protkoll_editieren(Global& g, std::string& editierte_datei, QWidget* eltern)

@@ -1,12 +1,10 @@
 #include "ui/Menuebefehle.h"
 
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QUrl>
 #include <algorithm>
 #include <array>
 
-#include "app/neuerungen.h"
 #include "auswertung/basis_ausfuehren.h"
 #include "auswertung/basis_esa.h"
 #include "auswertung/basis_gesamt.h"
@@ -71,17 +69,6 @@ void m_datei_laden(frmHauptform& form)
     if (liste.exec() == QDialog::Accepted) static_cast<void>(Verfahren_oeffnen(form.g(), liste.name()));
 }
 
-void m_grund_editor(frmHauptform& form)
-{
-    QFileDialog wahl(&form, QStringLiteral("Editor auswählen"));
-    wahl.setObjectName(QStringLiteral("editor"));
-    wahl.setFileMode(QFileDialog::ExistingFile);
-    wahl.setNameFilters({QStringLiteral("Programme (*.exe)"), QStringLiteral("Alle Dateien (*.*)")});
-    if (wahl.exec() == QDialog::Accepted)
-        static_cast<void>(
-            Editor_setzen(form.g(), std::filesystem::path(wahl.selectedFiles().value(0).toStdU16String())));
-}
-
 void m_grund_EinstellungenAlle(frmHauptform& form)
 {
     frmEinstellungenAlle::zeigen(form.g(), form.baum().gewaehlt(), &form);
@@ -112,7 +99,7 @@ constexpr std::array befehle = {
     Befehl{"m_geo_definieren", kern<m_geo_definieren>},
     Befehl{"m_geo_loeschen", kern<m_geo_loeschen>},
     Befehl{"m_hilfe_handbuch", handbuch_oeffnen},
-    Befehl{"m_grund_editor", m_grund_editor},
+    Befehl{"m_grund_editor", [](frmHauptform& form) { m_grund_editor(form.g(), &form); }},
     Befehl{"m_hilfe_neuerungen", [](frmHauptform& form) { frmErstStart(form.g(), &form).exec(); }},
     Befehl{"m_datei_importieren", [](frmHauptform& form) { m_datei_importieren(form.g(), &form); }},
     Befehl{"m_datei_basis_liste", [](frmHauptform& form) { m_datei_basis_liste(form.g(), &form); }},

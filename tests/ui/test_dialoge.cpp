@@ -436,8 +436,8 @@ TEST(Editorwahl, SetztDenEditorUndDieBeschriftungDesMenues)
         auto& wahl = static_cast<QFileDialog&>(fenster);
         EXPECT_EQ(wahl.windowTitle().toStdString(), "Editor auswählen");
         EXPECT_EQ(wahl.nameFilters(),
-                  (QStringList{QStringLiteral("Programme (*.exe)"), QStringLiteral("Alle Dateien (*.*)")}));
-        wahl.selectNameFilter(QStringLiteral("Alle Dateien (*.*)"));
+                  (QStringList{QStringLiteral("Programme (*.exe)"), QStringLiteral("Alle Dateien (*)")}));
+        wahl.selectNameFilter(QStringLiteral("Alle Dateien (*)"));
         wahl.setDirectory(QString::fromStdString(p.ordner.host().string()));
         QTest::qWait(50);
         teil<QLineEdit>(fenster, "fileNameEdit").setText(QStringLiteral("kate"));

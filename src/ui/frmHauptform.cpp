@@ -279,7 +279,7 @@ void frmHauptform::befehl(const std::string& name)
 void frmHauptform::baum_erneuern()
 {
     tre_punkte->zeigen(m_g, [this](std::string_view, std::string_view knoten) { return baumhinweis(m_g, knoten); });
-    statuszeile_erneuern();
+    menue_erneuern();  // what can be run hangs on the tree
 }
 
 void frmHauptform::karte_zeichnen(bool neu)

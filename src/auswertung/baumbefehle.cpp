@@ -68,6 +68,12 @@ Baumfolge einstellungen(Global& g, std::string_view, const Ziel& ziel)
     return {.dialog = Baumdialog::einstellungen};
 }
 
+Baumfolge warum(Global& g, std::string_view, const Ziel& ziel)
+{
+    if (Index_OBS_R(g, ziel.knoten) == 0) return {};
+    return {.dialog = Baumdialog::warum};
+}
+
 Baumfolge nicht_fertig(Global& g, std::string_view, const Ziel& ziel)
 {
     mnu_tree_nichtfertig(g, ziel.knoten);
@@ -83,10 +89,11 @@ struct Eintrag {
     std::string_view name;
     Befehl befehl;
 };
-constexpr std::array<Eintrag, 4> aendernde = {{{"mnu_tree_loeschen", loeschen},
+constexpr std::array<Eintrag, 5> aendernde = {{{"mnu_tree_loeschen", loeschen},
                                                {"mnu_tree_stop", ein_aus},
                                                {"mnu_tree_settings", einstellungen},
-                                               {"mnu_tree_nichtfertig", nicht_fertig}}};
+                                               {"mnu_tree_nichtfertig", nicht_fertig},
+                                               {"mnu_tree_warum", warum}}};
 
 bool im_menue_an(const Global& g, std::string_view befehl, const Ziel& ziel)
 {

@@ -12,9 +12,9 @@
 
 namespace jorv {
 
-/// The dialog that the caller opens for the node: frmEinstellungen (einstellungen_oeffnen) or frmhandarbeit
-/// (handarbeit_oeffnen).
-enum class Baumdialog { keiner, einstellungen, handarbeit };
+/// The dialog that the caller opens for the node: frmEinstellungen (einstellungen_oeffnen), frmhandarbeit
+/// (handarbeit_oeffnen) or why the rover has its light (begruendung_zeilen).
+enum class Baumdialog { keiner, einstellungen, handarbeit, warum };
 
 struct Baumfolge {
     Fehler fehler = Fehler::keiner;  ///< the command failed and has shown its message

@@ -4,9 +4,9 @@
 #include "auswertung/baumbefehle.h"
 #include "konsole/Befehle.h"
 #include "konsole/Lage.h"
-#include "konsole/begruendung.h"
 #include "konsole/zeigen.h"
 #include "modell/Gemeinsam.h"
+#include "planung/begruendung.h"
 #include "planung/handarbeit.h"
 
 namespace jorv {

@@ -5,6 +5,7 @@
 #include "konsole/Lage.h"
 #include "konsole/zeigen.h"
 #include "modell/Gemeinsam.h"
+#include "planung/begruendung.h"
 #include "projekt/verfahren.h"
 #include "projekt/verfahren_loeschen.h"
 

@@ -27,16 +27,14 @@ std::string verfahren_json(const Global& g, std::optional<Teil> teil);
 std::string verfahrensliste_json(const Global& g);
 std::string verfahrensliste_text(const Global& g);
 
-/// The verdict on rover i (from 1): its light with the reason as a line in Windows-1252; the whole record as JSON.
-std::string zuordnung_text(const Global& g, int i);
+/// The verdict on rover i (from 1): the whole record as JSON.
 std::string zuordnung_json(const Global& g, int i);
 
 /// The settings of rover i, of all with 0: a table in Windows-1252, and JSON.
 std::string einstellungen_text(const Global& g, int i);
 std::string einstellungen_json(const Global& g, int i);
 
-/// Why the assignment judged rover i (from 1) as it did: text in Windows-1252, and a JSON object.
-std::string begruendung_text(const Global& g, int i);
+/// Why the assignment judged rover i (from 1) as it did, as a JSON object.
 std::string begruendung_json(const Global& g, int i);
 
 }  // namespace jorv

@@ -1,9 +1,9 @@
 #include <array>
 #include <nlohmann/json.hpp>
 
-#include "konsole/begruendung.h"
 #include "konsole/zeigen.h"
 #include "modell/Menue.h"
+#include "planung/begruendung.h"
 #include "plattform/text.h"
 
 namespace jorv {
@@ -203,6 +203,24 @@ static Json als_json(const Begruendung& b)
             {"Minuten_Spanne", b.Minuten_Spanne}};
 }
 
+static Json als_json(const Stationsbedarf& b)
+{
+    return {{"Punktkennzeichen", als_json(b.Punktkennzeichen)},
+            {"TOREL-Dateiname", als_json(b.TOREL_Dateiname)},
+            {"von", datum_text(b.von)},
+            {"bis", datum_text(b.bis)}};
+}
+
+static Json als_json(const Weg& w)
+{
+    Json punkte = Json::array();
+    for (const auto& punkt : w.Punkte) punkte.push_back(als_json(punkt));
+    return {{"Text", als_json(weg_text(w))},
+            {"Punkte", punkte},
+            {"Dateien", reihe(w.Dateien)},
+            {"Bedarf", reihe(w.Bedarf)}};
+}
+
 static Json menue(const Global& g)
 {
     Json alle = Json::object();
@@ -347,6 +365,7 @@ std::string begruendung_json(const Global& g, int i)
     Json json = {{"ROVER-Dateiname", als_json(g.OBS_R[i].Dateiname)}};
     if (static_cast<std::size_t>(i) <= g.Begruendungen.size())
         json.update(als_json(g.Begruendungen[static_cast<std::size_t>(i - 1)]));
+    if (const auto weg = weg_zu_gruen(g, i)) json["Weg"] = als_json(*weg);
     return gedruckt(json);
 }
 

@@ -2,10 +2,10 @@
 #include <utility>
 
 #include "konsole/Tabelle.h"
-#include "konsole/begruendung.h"
 #include "konsole/zeigen.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Menue.h"
+#include "planung/begruendung.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
 

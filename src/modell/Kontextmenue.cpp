@@ -36,7 +36,7 @@ std::string basislinien_stamm(const Global& g, std::string_view knoten, std::str
     return std::string(knoten);
 }
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 10> befehle = {
+constexpr std::array<std::pair<std::string_view, std::string_view>, 11> befehle = {
     {{"mnu_tree_settings", "&Einstellungen/Infos..."},
      {"mnu_tree_stop", "an der Berechnung &teilnehmen"},
      {"mnu_tree_nichtfertig", "&ROVER erneut berechnen"},
@@ -46,7 +46,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 10> befehle 
      {"mnu_tree_rover_report_editieren", "Report des &ROVER anzeigen"},
      {"mnu_tree_vrs_report_editieren", "Report der &VRS anzeigen"},
      {"mnu_tree_err_editieren", "&Fehlerprotokoll anzeigen"},
-     {"mnu_tree_loeschen", u8"Datei &löschen"_w}}};
+     {"mnu_tree_loeschen", u8"Datei &löschen"_w},
+     {"mnu_tree_warum", "&Warum diese Ampel?"}}};
 
 class Kontext {
 public:
@@ -100,10 +101,12 @@ std::vector<Kontexteintrag> kontextmenue(const Global& g, std::string_view baum_
     menue.haken("mnu_tree_stop", rover != 0 && g.ROVER_Settings[rover].Ein_Ausschalterkennung == 1);
     if (baum_knoten.empty() || baum_eltern.empty()) return menue.fertig();
     menue.an({"mnu_tree_editieren", "mnu_tree_loeschen", "mnu_tree_stop", "mnu_tree_settings"});
-    if (baum_eltern == "ROVER-Dateien") {
+    const bool wartet = baum_eltern == "ROVER-Dateien", berechnet = baum_eltern == "Berechnete ROVER-Dateien";
+    if (!ist_B(g) && (wartet || berechnet)) menue.an({"mnu_tree_warum"});
+    if (wartet) {
         menue.wenn_datei({"mnu_tree_lis_editieren", "mnu_tree_err_editieren", "mnu_tree_dat_editieren"});
         if (ist_B(g)) menue.aus("mnu_tree_stop");
-    } else if (baum_eltern == "Berechnete ROVER-Dateien") {
+    } else if (berechnet) {
         menue.an({"mnu_tree_nichtfertig"});
         menue.wenn_datei({"mnu_tree_lis_editieren", "mnu_tree_rover_report_editieren", "mnu_tree_vrs_report_editieren",
                           "mnu_tree_err_editieren", "mnu_tree_dat_editieren"});

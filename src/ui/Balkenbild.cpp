@@ -12,8 +12,15 @@ constexpr int luft = 4, zeichen = 14, balkenrand = 2;
 constexpr double kleinster_abstand = 5;  // between two lines of the grid
 // The shade of this many satellites fills the bar, unless a file has more.
 constexpr std::int32_t volle_hoehe = 12;
-const QColor grund(224, 224, 224), fein(206, 206, 206), stark(150, 150, 150), schatten(0, 0, 0, 45),
-    luecke(255, 255, 255, 215), rand(90, 90, 90);
+const QColor grund(224, 224, 224), fein(206, 206, 206), stark(150, 150, 150), luecke(255, 255, 255, 215),
+    rand(90, 90, 90);
+
+// On a dark colour the shade has to be deeper.
+QColor schatten(const QColor& farbe)
+{
+    constexpr int dunkel = 100;
+    return {0, 0, 0, qGray(farbe.rgb()) < dunkel ? 110 : 45};
+}
 
 void haken_malen(QPainter& maler, const QPointF& ecke, bool gesetzt)
 {
@@ -126,26 +133,26 @@ void Balkenbild::balken_malen(QPainter& maler, const QRectF& flaeche, const Balk
     const double breite = std::max(schmal, (balken.bis - balken.von) * flaeche.width());
     const QRectF kasten(links, flaeche.top() + balkenrand, breite, flaeche.height() - 2 * balkenrand);
     maler.fillRect(kasten, z.farbe);
-    if (z.dichte) dichte_malen(maler, flaeche, kasten, *z.dichte);
+    if (z.dichte) dichte_malen(maler, flaeche, kasten, z);
     maler.setPen(rand);
     maler.setBrush(Qt::NoBrush);
     maler.drawRect(kasten);
 }
 
-void Balkenbild::dichte_malen(QPainter& maler, const QRectF& flaeche, const QRectF& balken,
-                              const Datendichte& dichte) const
+void Balkenbild::dichte_malen(QPainter& maler, const QRectF& flaeche, const QRectF& balken, const Balkenzeile& z) const
 {
+    const QColor dunkler = schatten(z.farbe);
     const auto stelle = [&](double zeit) {
         return std::clamp(flaeche.left() + achse.anteil(zeit) * flaeche.width(), balken.left(), balken.right());
     };
     double ende = balken.left();
-    for (const auto& a : dichte.Abschnitte) {
+    for (const auto& a : z.dichte->Abschnitte) {
         const double von = stelle(a.von), bis = stelle(a.bis);
         constexpr double sichtbar = 1;
         if (von > ende)
             maler.fillRect(QRectF(ende, balken.top(), std::max(sichtbar, von - ende), balken.height()), luecke);
         const double hoehe = balken.height() * a.Satelliten / m_meiste_Satelliten;
-        if (bis > von) maler.fillRect(QRectF(von, balken.bottom() - hoehe, bis - von, hoehe), schatten);
+        if (bis > von) maler.fillRect(QRectF(von, balken.bottom() - hoehe, bis - von, hoehe), dunkler);
         ende = bis;
     }
 }

@@ -47,7 +47,7 @@ private:
     QRectF zeitflaeche(const QRectF& kasten) const;
     void raster_malen(QPainter& maler, const QRectF& flaeche) const;
     void balken_malen(QPainter& maler, const QRectF& flaeche, const Balkenzeile& z) const;
-    void dichte_malen(QPainter& maler, const QRectF& flaeche, const QRectF& balken, const Datendichte& dichte) const;
+    void dichte_malen(QPainter& maler, const QRectF& flaeche, const QRectF& balken, const Balkenzeile& z) const;
     int namen_einzug(const Balkenzeile& z) const;
 
     std::vector<Balkenzeile> m_zeilen;

@@ -14,6 +14,7 @@
 #include "ui/Dialogbau.h"
 #include "ui/Satellitenwahl.h"
 #include "ui/Zahlenbox.h"
+#include "ui/frmWarum.h"
 #include "ui/qtext.h"
 
 namespace jorv {
@@ -97,8 +98,14 @@ QWidget* frmEinstellungen::ampel()
     raster->addWidget(ueberschrift, 0, 0, 1, 2);
     raster->addWidget(bild, 1, 0, Qt::AlignTop);
     raster->addWidget(text, 1, 1);
+    auto* warum = benannt(new QPushButton(QStringLiteral("&Warum?"), feld), "cmd_warum");
+    warum->setAutoDefault(false);
+    ohne_pruefung(*warum);
+    connect(warum, &QPushButton::clicked, this, [this] { frmWarum::zeigen(m_g, m_e.ROVER_Dateiname, this); });
+    raster->addWidget(warum, 2, 1, Qt::AlignLeft);
     raster->setColumnStretch(1, 1);
-    for (QLabel* label : {ueberschrift, bild, text}) label->setVisible(m_e.ampelinfo_sichtbar);
+    for (QWidget* element : std::initializer_list<QWidget*>{ueberschrift, bild, text, warum})
+        element->setVisible(m_e.ampelinfo_sichtbar);
     return feld;
 }
 

@@ -31,6 +31,7 @@
 #include "ui/Menuebefehle.h"
 #include "ui/frmEinstellungen.h"
 #include "ui/frmErstStart.h"
+#include "ui/frmWarum.h"
 #include "ui/frmgesamt.h"
 #include "ui/frmhandarbeit.h"
 #include "ui/frmhinweis.h"
@@ -212,6 +213,7 @@ void frmHauptform::baumfolge(const Baumfolge& folge, const std::string& knoten)
 {
     if (folge.frmhinweis) frmhinweis::zeigen(m_g, this);
     if (folge.dialog == Baumdialog::einstellungen) frmEinstellungen::zeigen(m_g, knoten, this);
+    if (folge.dialog == Baumdialog::warum) frmWarum::zeigen(m_g, knoten, this);
     if (folge.dialog == Baumdialog::handarbeit) frmhandarbeit::zeigen(m_g, m_dichten, knoten, this);
     if (folge.Punkte.empty()) return;
     pic_grafik->karte().basislinie_markieren(knoten);

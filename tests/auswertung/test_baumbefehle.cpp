@@ -111,6 +111,7 @@ TEST(Baumbefehle, KlickUndDialogeFolgenModusUndKnoten)
     handarbeit_hinweis_ok(e.g, false);
     EXPECT_FALSE(baum_klick(e.g, "5501092a.05o", wartende).frmhinweis);
     EXPECT_EQ(baum_befehl(e.g, "mnu_tree_settings", "5501092a.05o", wartende).dialog, Baumdialog::einstellungen);
+    EXPECT_EQ(baum_befehl(e.g, "mnu_tree_warum", "5501092a.05o", wartende).dialog, Baumdialog::warum);
     EXPECT_TRUE(ist_fehler(baum_befehl(e.g, "mnu_tree_dat_editieren", "5501092a.05o", wartende).fehler));
     EXPECT_EQ(e.schirm.einzige(), utf8_aus_1252(verkettet("Es existiert noch keine Datei: ", e.g.Arbeitsverzeichnis,
                                                           "\\jorv_out\\dat_rov\\5501092a.05o.UTM")));

@@ -7,8 +7,8 @@
 #include <regex>
 
 #include "hilfen/Projekt.h"
-#include "konsole/begruendung.h"
 #include "modell/Baum.h"
+#include "planung/begruendung.h"
 
 namespace jorv {
 namespace {
@@ -161,7 +161,9 @@ TEST(ZeigenText, BegruendungNenntFigurDateienUndPruefung)
          {"5501167j.16o: gelb, Zu wenig TOREL-Punkte", "Figur 1: 0590 0591 0593", "0590167h.16o  genommen",
           "0591167k.16o  nicht genommen, beginnt zu spät um 12 min", "weniger Dateien als Ecken der Figur", "180 min"})
         EXPECT_THAT(text, HasSubstr(stueck));
-    EXPECT_EQ(Json::parse(begruendung_json(p.g, 1))["Dateien"][1]["Minuten_vorher"], 12);
+    const Json json = Json::parse(begruendung_json(p.g, 1));
+    EXPECT_EQ(json["Dateien"][1]["Minuten_vorher"], 12);
+    EXPECT_THAT(text, HasSubstr("\n  Weg zu Grün: " + json["Weg"]["Text"].get<std::string>() + "\n"));
 }
 
 TEST(Grundtext, GruenIstImmerOhneProblem)

@@ -1,5 +1,7 @@
 // The windows with time bars, driven from the tree and the menu.
 #include <QCheckBox>
+#include <QClipboard>
+#include <QListWidget>
 #include <QPrinter>
 #include <QScrollBar>
 #include <QToolTip>
@@ -182,6 +184,35 @@ TEST(Zeitenfenster, PasstVergroessertDieZeitUndDruckt)
     });
     p.befehl("m_grafik_zeiten(1)");
     EXPECT_EQ(p.g.zeit_tag, 1);
+}
+
+TEST(Warumfenster, PasstUndErzaehltDieEntscheidung)
+{
+    Balkenprobe p;
+    static_cast<void>(p.g.GEO_Punkt.anfuegen(figur({punkt("0590", 0, 0), punkt("0591", 9, 0), punkt("0593", 0, 9)})));
+    automatik(p.g);
+    Drehbuch b;
+    const auto warum = [](QWidget& fenster) {
+        elemente_pruefen(fenster, {{"lbl_kopf", nullptr},
+                                   {"lst_schritte", "So hat die &Automatik entschieden:"},
+                                   {"cmd_kopieren", "&Kopieren"},
+                                   {"cmd_ok", "OK"}});
+        fenster_pruefen(fenster);
+        EXPECT_TRUE(teil<QLabel>(fenster, "lbl_kopf").text().startsWith(QStringLiteral("5501001a.14o: rot, Kein")));
+        EXPECT_EQ(teil<QListWidget>(fenster, "lst_schritte").item(0)->text().toStdString(), "1. liegt in keiner Figur");
+        EXPECT_TRUE(teil<QLabel>(fenster, "lbl_weg").text().startsWith(QStringLiteral("Weg zu Grün: ")));
+        klick(fenster, "cmd_kopieren");
+        EXPECT_TRUE(QApplication::clipboard()->text().contains(QStringLiteral("  - liegt in keiner Figur")));
+        taste(Qt::Key_Return);
+    };
+    b.im("frmWarum", warum);
+    p.form.baumbefehl("mnu_tree_warum", "5501001a.14o", "ROVER-Dateien");
+    b.im("frmEinstellungen", [&](QWidget& fenster) {
+        b.im("frmWarum", warum);
+        taste(Qt::Key_W, Qt::AltModifier);
+        klick(fenster, "cmd_abbrechen");
+    });
+    p.form.baumbefehl("mnu_tree_settings", "5501001a.14o", "ROVER-Dateien");
 }
 
 }  // namespace jorv

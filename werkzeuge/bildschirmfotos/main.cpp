@@ -143,6 +143,9 @@ int main(int anzahl, char** werte)
         fotograf.fotos(
             QStringLiteral("klick_") + QString::fromStdString(gruppe.Schluessel),
             [&] { form.baum().bei_klick(knoten, eltern); }, false);
+        fotograf.fotos(
+            QStringLiteral("warum_") + QString::fromStdString(gruppe.Schluessel),
+            [&] { form.baumbefehl("mnu_tree_warum", knoten, eltern); }, false);
     }
     std::printf("%d Bilder in %s\n", fotograf.anzahl(), qPrintable(worte[2]));
     return 0;

@@ -1,8 +1,7 @@
-#include "konsole/begruendung.h"
+#include "planung/begruendung.h"
 
 #include <array>
 
-#include "konsole/zeigen.h"
 #include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "planung/einstellungen_rover.h"
@@ -51,12 +50,16 @@ std::string fremde_text(const Dateiurteil& u)
                      " min lang", u.Minuten_Laenge < stunde ? u8" (kürzer als 60 min)"_w : "");
 }
 
+std::string verfehlungen(const Dateiurteil& u)
+{
+    return verkettet(verfehlung(u8"beginnt zu spät um"_w, u.Minuten_vorher, u.Sekunden_vorher),
+                     verfehlung(u8"endet zu früh um"_w, u.Minuten_nachher, u.Sekunden_nachher));
+}
+
 std::string urteil_text(const Dateiurteil& u, bool fremd)
 {
-    std::string text = verkettet("    ", u.TOREL_Dateiname, u.genommen ? "  genommen" : "  nicht genommen",
-                                 verfehlung(u8"beginnt zu spät um"_w, u.Minuten_vorher, u.Sekunden_vorher),
-                                 verfehlung(u8"endet zu früh um"_w, u.Minuten_nachher, u.Sekunden_nachher));
-    return verkettet(text, fremd ? fremde_text(u) : "", "\n");
+    return verkettet(u.TOREL_Dateiname, u.genommen ? "  genommen" : "  nicht genommen", verfehlungen(u),
+                     fremd ? fremde_text(u) : "");
 }
 
 std::string figur_text(const Global& g, const Begruendung& b)
@@ -65,7 +68,17 @@ std::string figur_text(const Global& g, const Begruendung& b)
     const auto& figur = g.GEO_Punkt[b.Figur];
     std::string ecken;
     for (int i = 0; i < figur.Anzahl; ++i) ecken += verkettet(" ", figur.Punkt[static_cast<std::size_t>(i)]);
-    return verkettet("  Figur ", b.Figur, ":", ecken, "\n");
+    return verkettet("Figur ", b.Figur, ":", ecken);
+}
+
+// In front of each kind of line, in the order of the enumeration.
+constexpr std::array<std::string_view, 7> einzug = {"", "  ", "    ", "    ", "  - ", "  ", "  "};
+
+std::string aufgezaehlt(const std::vector<std::string>& namen)
+{
+    std::string text;
+    for (const auto& name : namen) text += verkettet(text.empty() ? "" : ", ", name);
+    return text;
 }
 
 }  // namespace
@@ -116,19 +129,66 @@ std::string zuordnung_text(const Global& g, int i)
     return text + "\n";
 }
 
+std::string weg_text(const Weg& weg)
+{
+    std::vector<std::string> teile;
+    switch (weg.art) {
+        case Wegart::keiner:
+            return std::string(
+                u8"keiner mit den Dateien des Verfahrens. Es fehlen Dateien von drei TOREL-Stationen, die den ROVER "
+                u8"überdecken."_w);
+        case Wegart::schutz_aufheben:
+            return "den Schutz der Einstellungen aufheben.";
+        case Wegart::figur:
+            return verkettet("auf der Karte die TOREL-Punkte ", aufgezaehlt(weg.Punkte),
+                             " zu einem Dreieck verbinden.");
+        case Wegart::von_hand:
+            for (const auto& datei : weg.Dateien) {
+                const std::string fehlt = verfehlungen(datei);
+                teile.push_back(fehlt.empty() ? datei.TOREL_Dateiname
+                                              : verkettet(datei.TOREL_Dateiname, " (", fehlt.substr(2), ")"));
+            }
+            return verkettet("den ROVER mit ", aufgezaehlt(teile), u8" verknüpfen und die Einstellungen schützen."_w);
+        case Wegart::einfuegen:
+            for (const auto& bedarf : weg.Bedarf)
+                teile.push_back(verkettet(bedarf.TOREL_Dateiname, " (", datum_text(bedarf.von), " bis ",
+                                          datum_text(bedarf.bis), ")"));
+            return verkettet(u8"Stationsdateien einfügen: "_w, aufgezaehlt(teile), ".");
+    }
+    return {};
+}
+
+std::vector<Begruendungszeile> begruendung_zeilen(const Global& g, int i)
+{
+    std::string kopf = zuordnung_text(g, i);
+    kopf.pop_back();
+    std::vector<Begruendungszeile> zeilen = {{Zeilenart::kopf, std::move(kopf)}};
+    if (static_cast<std::size_t>(i) > g.Begruendungen.size()) return zeilen;
+    const Begruendung& b = g.Begruendungen[static_cast<std::size_t>(i - 1)];
+    if (std::string figur = figur_text(g, b); !figur.empty()) zeilen.push_back({Zeilenart::figur, std::move(figur)});
+    for (const auto& urteil : b.Dateien)
+        zeilen.push_back(
+            {urteil.genommen ? Zeilenart::genommen : Zeilenart::nicht_genommen, urteil_text(urteil, ist_F(g))});
+    for (const Pruefung schritt : b.Schritte)
+        zeilen.push_back({Zeilenart::schritt, std::string(pruefung_text(schritt))});
+    if (!b.abweichende_Datei.empty())
+        zeilen.push_back({Zeilenart::zusatz, verkettet("abweichende Datei: ", b.abweichende_Datei)});
+    zeilen.push_back({Zeilenart::zusatz,
+                      verkettet("Beobachtung des ROVER: ", zahl_text(static_cast<double>(b.Minuten_ROVER)), " min")});
+    if (b.Minuten_Spanne > 0)
+        zeilen.push_back(
+            {Zeilenart::zusatz, verkettet("die Stationen bieten ", zahl_text(static_cast<double>(b.Minuten_Spanne)),
+                                          " min (", datum_text(b.Spanne_von), " bis ", datum_text(b.Spanne_bis), ")")});
+    if (const auto weg = weg_zu_gruen(g, i))
+        zeilen.push_back({Zeilenart::weg, verkettet(u8"Weg zu Grün: "_w, weg_text(*weg))});
+    return zeilen;
+}
+
 std::string begruendung_text(const Global& g, int i)
 {
-    std::string text = zuordnung_text(g, i);
-    if (static_cast<std::size_t>(i) > g.Begruendungen.size()) return text;
-    const Begruendung& b = g.Begruendungen[static_cast<std::size_t>(i - 1)];
-    text += figur_text(g, b);
-    for (const auto& urteil : b.Dateien) text += urteil_text(urteil, ist_F(g));
-    for (const Pruefung schritt : b.Schritte) text += verkettet("  - ", pruefung_text(schritt), "\n");
-    if (!b.abweichende_Datei.empty()) text += verkettet("  abweichende Datei: ", b.abweichende_Datei, "\n");
-    text += verkettet("  Beobachtung des ROVER: ", zahl_text(static_cast<double>(b.Minuten_ROVER)), " min\n");
-    if (b.Minuten_Spanne > 0)
-        text += verkettet("  die Stationen bieten ", zahl_text(static_cast<double>(b.Minuten_Spanne)), " min (",
-                          datum_text(b.Spanne_von), " bis ", datum_text(b.Spanne_bis), ")\n");
+    std::string text;
+    for (const auto& zeile : begruendung_zeilen(g, i))
+        text += verkettet(einzug.at(static_cast<std::size_t>(zeile.art)), zeile.text, "\n");
     return text;
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "hilfen/Projekt.h"
+#include "karte/einzelkarte.h"
 #include "planung/Beobachtungen.h"
 
 using namespace jorv;
@@ -166,4 +167,31 @@ TEST_F(Kartentest, MarkiertEineBasislinieBisZumNaechstenZeichnen)
     EXPECT_EQ(karte.ueberlagerung().size(), 2u);
     karte.grafik_zeichnen(false);
     EXPECT_TRUE(karte.ueberlagerung().empty());
+}
+
+TEST_F(Kartentest, DieKleineKarteFasstDenROVERUndSeineStationen)
+{
+    Handarbeit h;
+    ASSERT_EQ(handarbeit_oeffnen(p.g, "5501001a.14o", h), Fehler::keiner);
+    Einzelkarte klein(p.g, h);
+    EXPECT_TRUE(klein.bild().empty());
+    klein.groesse_setzen(110, 110);
+    EXPECT_EQ(klein.ansicht().fenster(), (Ausschnitt{19500, 30500, 19500, 30500}));
+    handarbeit_klick(p.g, h, 3);
+    const auto bild = [&] {
+        std::string text;
+        for (const auto& s : klein.bild()) {
+            const auto* k = std::get_if<Kreise>(&s.form);
+            text += verkettet(name(s.ebene), k ? k->orte.size() : 0, " ");
+        }
+        return text;
+    };
+    EXPECT_EQ(bild(),
+              "hintergrund0 massstab0 katalog4 zuordnung0 station3 ecke1 rover1 pkz0 pkz0 pkz0 pkz0 massstab0 ");
+    klein.bewegen(klein.ansicht().bild({30000, 30000}));
+    EXPECT_EQ(klein.lbl_pkz()->text, "  0592  ");
+    p.g.TOREL_Punkt.leeren();  // the files of a station tell its name as well
+    EXPECT_EQ(klein.lbl_pkz()->text, "  0592  ");
+    klein.verlassen();
+    EXPECT_TRUE(klein.ueberlagerung().empty());
 }

@@ -19,7 +19,7 @@ const QColor grund(224, 224, 224), fein(206, 206, 206), stark(150, 150, 150), lu
 QColor schatten(const QColor& farbe)
 {
     constexpr int dunkel = 100;
-    return {0, 0, 0, qGray(farbe.rgb()) < dunkel ? 110 : 45};
+    return {0, 0, 0, qGray(farbe.rgb()) < dunkel ? 85 : 45};
 }
 
 void haken_malen(QPainter& maler, const QPointF& ecke, bool gesetzt)

@@ -40,6 +40,7 @@ void Zeitbalken::setzen(const Zeitachse& achse, std::vector<Balkenzeile> zeilen,
     m_aktuelle = -1;
     bildlauf_erneuern();
     aktuell_setzen(m_feste < m_bild.anzahl() ? m_feste : m_bild.anzahl() - 1);
+    verticalScrollBar()->setValue(0);  // the window may still be smaller than it will be shown
     updateGeometry();
     viewport()->update();
 }

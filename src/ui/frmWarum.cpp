@@ -15,7 +15,7 @@ namespace jorv {
 
 namespace {
 
-constexpr int bild_gut = 1, bild_schlecht = 3, breite_zeichen = 80, hoehe_zeilen = 12;
+constexpr int bild_gut = 1, bild_schlecht = 3, breite_zeichen = 80, hoehe_zeilen = 12, mindestens_zeilen = 5;
 
 QLabel* absatz(const std::string& text, const char* name, QWidget* eltern)
 {
@@ -57,7 +57,8 @@ frmWarum::frmWarum(const Global& g, int rover, QWidget* eltern) : QDialog(eltern
     auto* liste = benannt(new QListWidget(this), "lst_schritte");
     liste->setWordWrap(true);
     liste->setIconSize(QSize(16, 16));
-    liste->setMinimumSize(fontMetrics().averageCharWidth() * breite_zeichen, fontMetrics().height() * hoehe_zeilen);
+    liste->setMinimumSize(fontMetrics().averageCharWidth() * breite_zeichen,
+                          fontMetrics().height() * mindestens_zeilen);
     schritte_fuellen(*liste, zeilen);
     auto* oben = new QHBoxLayout;
     oben->addWidget(bild, 0, Qt::AlignTop);
@@ -84,6 +85,7 @@ frmWarum::frmWarum(const Global& g, int rover, QWidget* eltern) : QDialog(eltern
     unten->addWidget(ok);
     alles->addSpacing(abstand_gruppe);
     alles->addLayout(unten);
+    resize(sizeHint().width(), sizeHint().height() + fontMetrics().height() * (hoehe_zeilen - mindestens_zeilen));
     liste->setCurrentRow(0);
     liste->setFocus();
 }

@@ -31,11 +31,12 @@ frmgesamt::frmgesamt(const Gesamtuebersicht& u, const Datendichten& dichten, QWi
         connect(neu, &QPushButton::clicked, this, tun);
         return neu;
     };
-    auto* ok = knopf(QStringLiteral("OK"), "cmd_ok", [this] { accept(); });
-    ok->setDefault(true);
+    // In the order in which Tab goes through them.
     auto* unten = new QHBoxLayout;
     unten->addWidget(knopf(QStringLiteral("&Ganze Zeit"), "cmd_ganz", [this] { pic_zeiten->ausschnitt_zeigen(0, 1); }));
     unten->addWidget(knopf(QStringLiteral("&Drucken..."), "cmd_drucken", [this] { drucken(); }));
+    auto* ok = knopf(QStringLiteral("OK"), "cmd_ok", [this] { accept(); });
+    ok->setDefault(true);
     unten->addStretch();
     unten->addWidget(ok);
     auto* alles = new QVBoxLayout(this);

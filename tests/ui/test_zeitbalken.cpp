@@ -132,6 +132,7 @@ TEST(Handarbeitfenster, PasstZeigtDieKarteUndDieZeitAmZeiger)
         const int rover = zeiten.zeilenkasten(0).top();
         EXPECT_TRUE(zeiten.hinweis_an({mitte, rover + 3}).startsWith(QStringLiteral(" ROVER: 5501001a.14o Start")));
         EXPECT_TRUE(zeiten.hinweis_an({mitte, 3}).startsWith(QStringLiteral("01.01.2014 10:4")));
+        EXPECT_EQ(zeiten.verticalScrollBar()->value(), 0);
         taste(Qt::Key_End);
         EXPECT_GT(zeiten.verticalScrollBar()->value(), 0);
         EXPECT_EQ(zeiten.zeilenkasten(0).top(), rover);  // stays in view

@@ -66,13 +66,16 @@ double Balkenbild::anteil(double x, double breite) const
 void Balkenbild::kopf_malen(QPainter& maler, const QRectF& kasten) const
 {
     const QRectF flaeche = zeitflaeche(kasten);
-    maler.setPen(maler.pen().color());
     if (achse.sekunden() <= 0) return;
+    const QColor schrift = maler.pen().color();
+    QColor blass = schrift;
+    blass.setAlphaF(0.6F);
     const QRectF namen(kasten.left() + luft, kasten.top(), m_namensbreite - 2 * luft, kasten.height() - 4);
     maler.drawText(namen, Qt::AlignLeft | Qt::AlignVCenter, anzeige(tag_text(achse.zeit(0))));
     const double breit = maler.fontMetrics().horizontalAdvance(QStringLiteral("00:00")) + 3 * luft;
     for (const auto& marke : achse.marken(static_cast<int>(flaeche.width() / breit))) {
         const double x = flaeche.left() + marke.anteil * flaeche.width();
+        maler.setPen(marke.Text.ends_with(":00") ? schrift : blass);
         maler.drawLine(QPointF(x, kasten.bottom() - 4), QPointF(x, kasten.bottom()));
         const QRectF platz(x - breit / 2, kasten.top(), breit, kasten.height() - 4);
         if (platz.left() >= kasten.left() + m_namensbreite - breit / 2 && platz.right() <= kasten.right() + luft)

@@ -15,7 +15,7 @@ namespace jorv {
 
 namespace {
 
-constexpr int bild_gut = 1, bild_schlecht = 3, breite_zeichen = 80, hoehe_zeilen = 12, mindestens_zeilen = 5;
+constexpr int bild_gut = 1, bild_schlecht = 3, breite_zeichen = 80, mindestens_zeilen = 5;
 
 QLabel* absatz(const std::string& text, const char* name, QWidget* eltern)
 {
@@ -85,7 +85,6 @@ frmWarum::frmWarum(const Global& g, int rover, QWidget* eltern) : QDialog(eltern
     unten->addWidget(ok);
     alles->addSpacing(abstand_gruppe);
     alles->addLayout(unten);
-    resize(sizeHint().width(), sizeHint().height() + fontMetrics().height() * (hoehe_zeilen - mindestens_zeilen));
     liste->setCurrentRow(0);
     liste->setFocus();
 }

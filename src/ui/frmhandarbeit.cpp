@@ -47,6 +47,7 @@ frmhandarbeit::frmhandarbeit(Global& g, Handarbeit h, const Datendichten& dichte
     teiler->setChildrenCollapsible(false);
     teiler->setStretchFactor(0, 2);
     teiler->setStretchFactor(1, 1);
+    teiler->setSizes({600, 400});
     lbl_zeile->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     chk_schutz->setChecked(m_h.Schutz);
     auto* knoepfe = knopfzeile(*this);

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "daten/datendichte.h"
 #include "daten/punkt_info.h"
 #include "daten/satelliten.h"
 #include "plattform/kalender.h"
@@ -29,10 +30,7 @@ public:
     bool ereignisse() override { return false; }
     bool im_editor_oeffnen(std::string_view) override { return false; }
     std::optional<jorv::Dateiwahl> dateien_waehlen(jorv::Dateiart, std::string_view) override { return std::nullopt; }
-    std::optional<jorv::Verfahrenswahl> neues_verfahren(const jorv::Verfahrenswahl&, std::string_view) override
-    {
-        return std::nullopt;
-    }
+    void neues_verfahren(const jorv::Verfahrenswahl&, std::string_view, const jorv::Verfahrensanlage&) override {}
 };
 
 void rechts(std::string& ziel, long zahl, std::size_t breite)
@@ -140,7 +138,23 @@ void beide_leser(benchmark::State& zustand)
     zustand.counters["MB"] = static_cast<double>(fs::file_size(messdatei().ordner / Messdatei::name)) / 1e6;
 }
 
+// What the windows with time bars read, from nothing each time.
+void datendichte(benchmark::State& zustand)
+{
+    Stumm schirm;
+    const jorv::Systemuhr uhr;
+    jorv::Global g(schirm, uhr, jorv::Dateisystem());
+    g.Arbeitsverzeichnis = jorv::Laufwerke().dos(messdatei().ordner).value();
+    for (auto _ : zustand) {
+        jorv::Datendichten dichten;
+        dichten.lesen(g, {Messdatei::name});
+        const auto* dichte = dichten.von(Messdatei::name);
+        if (!dichte || dichte->Abschnitte.size() != 1 || dichte->Intervall != 1) zustand.SkipWithError("not read");
+    }
+}
+
 BENCHMARK(zeilen_zaehlen)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(beide_leser)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(datendichte)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace

@@ -69,18 +69,20 @@ std::optional<Antennenblock> antenne_suchen(std::string_view antex, std::string_
     std::optional<Antennenblock> bester;
     std::string_view blockname;
     int bester_rang = KEIN_FUND, blockrang = KEIN_FUND;
-    std::size_t anfang = 0;
+    std::size_t anfang = 0, nummer_der_zeile = 0, blockzeile = 0;
     for (std::size_t stelle = 0; stelle < antex.size();) {
         const std::size_t zeilenanfang = stelle;
         const auto ende = std::min(antex.find('\n', stelle), antex.size());
         const std::string_view zeile = antex.substr(stelle, ende - stelle);
         stelle = ende + 1;
+        ++nummer_der_zeile;
         const std::string_view marke = spalten(zeile, 60, 20);
         if (marke == "START OF ANTENNA") {
             anfang = zeilenanfang;
             blockrang = KEIN_FUND;
         } else if (marke == "TYPE / SERIAL NO") {
             blockname = spalten(zeile, 0, 2 * NAMENSBREITE);
+            blockzeile = nummer_der_zeile;
             blockrang = rang(spalten(zeile, 0, NAMENSBREITE), spalten(zeile, NAMENSBREITE, NAMENSBREITE), nummer, typ);
         } else if (marke == "VALID FROM" || marke == "VALID UNTIL") {
             const auto grenze = gueltig(zeile);
@@ -89,7 +91,7 @@ std::optional<Antennenblock> antenne_suchen(std::string_view antex, std::string_
             bester_rang = blockrang;
             const std::string_view text = antex.substr(anfang, std::min(stelle, antex.size()) - anfang);
             bester = Antennenblock{ersetzt(text, "\r", ""), static_cast<Antennenfund>(blockrang / 10),
-                                   std::string(blockname)};
+                                   std::string(blockname), blockzeile};
         }
     }
     return bester;

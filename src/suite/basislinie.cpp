@@ -41,7 +41,7 @@ private:
     double takt_waehlen();
     std::size_t gemeinsame(double takt) const;
     bool antennen_suchen();
-    std::optional<Antennenblock> antenne(std::string_view antex, const Beobachtungsdatei& datei);
+    std::optional<Antennenblock> antenne(std::string_view antex, const Beobachtungsdatei& datei, std::string& herkunft);
     bool auftrag_fuellen();
     std::optional<Ergebnis> loesen(const Loeser& loeser);
     std::optional<Ergebnis> fest_loesen(const Loeser& loeser, bool zwei_frequenzen);
@@ -62,6 +62,7 @@ private:
     Beobachtungsdatei m_basis, m_rover;
     double m_laenge = 0.0, m_hoehenunterschied = 0.0;  // of the real baseline
     Loeserauftrag m_auftrag;
+    std::string m_basis_kalibrierung = "keine", m_rover_kalibrierung = "keine";
     bool m_version_geprueft = false;
     bool m_haengt = false;  // the solver reached its time limit: no further run
 };
@@ -152,7 +153,8 @@ double Lauf::takt_waehlen()
     return 0.0;
 }
 
-std::optional<Antennenblock> Lauf::antenne(std::string_view antex, const Beobachtungsdatei& datei)
+std::optional<Antennenblock> Lauf::antenne(std::string_view antex, const Beobachtungsdatei& datei,
+                                           std::string& herkunft)
 {
     const RinexKopf& kopf = datei.daten.kopf;
     auto block = antenne_suchen(antex, kopf.antennennummer, kopf.antennentyp, datei.daten.epochen.front().zeit);
@@ -163,9 +165,11 @@ std::optional<Antennenblock> Lauf::antenne(std::string_view antex, const Beobach
             verkettet(wer, u8" fehlt in "_w, m_aufruf.antennendatei, ": keine Korrektur an diesem Punkt."));
         return {};
     }
-    constexpr std::array<std::string_view, 4> WIE = {"nach der Nummer", "nach dem Typ", "", ""};
-    const auto fund = static_cast<std::size_t>(block->fund);
-    m_protokoll.zeile(verkettet(wer, ": ", block->name, WIE[fund].empty() ? "" : ", ", WIE[fund]));
+    constexpr std::array<std::string_view, 4> WIE = {"nach der Nummer", "nach dem Typ", "nach dem Typ ohne Haube",
+                                                     u8"nach einem anderen Stück"_w};
+    herkunft = verkettet(m_aufruf.antennendatei, " Zeile ", block->zeile, ": ", block->name, ", ",
+                         WIE[static_cast<std::size_t>(block->fund)]);
+    m_protokoll.zeile(verkettet(wer, ": ", herkunft));
     if (block->fund == Antennenfund::ohne_haube)
         m_protokoll.warnung(verkettet(wer, ": nur ohne Haube kalibriert (", block->name, ")."));
     if (block->fund == Antennenfund::anderes_stueck)
@@ -183,8 +187,8 @@ bool Lauf::antennen_suchen()
     const Abbild antex = m_ordner.lesen(m_aufruf.antennendatei, fehler);
     if (fehler)
         return abbruch(verkettet("Die Antennendatei ", m_aufruf.antennendatei, u8" konnte nicht geöffnet werden!"_w));
-    m_auftrag.basis_antenne = antenne(antex.text(), m_basis);
-    m_auftrag.rover_antenne = antenne(antex.text(), m_rover);
+    m_auftrag.basis_antenne = antenne(antex.text(), m_basis, m_basis_kalibrierung);
+    m_auftrag.rover_antenne = antenne(antex.text(), m_rover, m_rover_kalibrierung);
     return true;
 }
 
@@ -296,6 +300,8 @@ Ergebnis Lauf::ergebnis(const Loeserausgabe& ausgabe, const Urteil& urteil, std:
     e.verhaeltnis = p.verhaeltnis;
     e.antennenhoehe = m_rover.daten.kopf.antennenhoehe;
     e.antennentyp = m_rover.daten.kopf.antennentyp;
+    e.basis_kalibrierung = m_basis_kalibrierung;
+    e.rover_kalibrierung = m_rover_kalibrierung;
     return e;
 }
 

@@ -31,6 +31,7 @@ struct Ergebnis {
 
     double antennenhoehe = 0.0;  // metres
     std::string antennentyp;
+    std::string basis_kalibrierung = "keine", rover_kalibrierung = "keine";  // file, line, block and how it was found
 
     Xyz basislinie() const { return rover - basis; }
 };

@@ -135,6 +135,8 @@ std::string ergebnistext(const Ergebnis& e)
     text += zeile("Satelliten", {fest(e.satelliten, 1)});
     text += zeile("PDOP bester, mittlerer", {fest(e.pdop_beste, 1), fest(e.pdop_mittel, 1)});
     text += zeile(u8"Antenne, Höhe [m]"_w, {e.antennentyp, fest(e.antennenhoehe, 3)});
+    text += zeile("Kalibrierung Basis", {e.basis_kalibrierung});
+    text += zeile("Kalibrierung Rover", {e.rover_kalibrierung});
     return text.substr(0, text.size() - 2);
 }
 

@@ -11,7 +11,7 @@ namespace jorv::suite {
 namespace {
 
 constexpr std::size_t NAMENSBREITE = 20;
-constexpr int KEIN_FUND = 99;
+constexpr int ANDERER_TYP = 1, KEIN_FUND = 99;
 
 struct Typname {
     std::string_view modell, haube;
@@ -31,7 +31,7 @@ int rang(std::string_view blocktyp, std::string_view blocknummer, std::string_vi
     const Typname a = zerlegt(blocktyp), b = zerlegt(typ);
     const bool modell = !typ.empty() && gleich_ohne_gross(a.modell, b.modell);
     const bool haube = gleich_ohne_gross(a.haube, b.haube);
-    if (!nummer.empty() && gleich_ohne_gross(blocknummer, nummer)) return modell ? 0 : 1;
+    if (!nummer.empty() && gleich_ohne_gross(blocknummer, nummer)) return modell ? 0 : ANDERER_TYP;
     if (!modell) return KEIN_FUND;
     if (blocknummer.empty()) return haube ? 10 : gleich_ohne_gross(a.haube, "NONE") ? 20 : KEIN_FUND;
     return haube ? 30 : KEIN_FUND;
@@ -91,7 +91,7 @@ std::optional<Antennenblock> antenne_suchen(std::string_view antex, std::string_
             bester_rang = blockrang;
             const std::string_view text = antex.substr(anfang, std::min(stelle, antex.size()) - anfang);
             bester = Antennenblock{ersetzt(text, "\r", ""), static_cast<Antennenfund>(blockrang / 10),
-                                   std::string(blockname), blockzeile};
+                                   std::string(blockname), blockzeile, blockrang == ANDERER_TYP && !typ.empty()};
         }
     }
     return bester;

@@ -16,8 +16,9 @@ enum class Antennenfund { nummer, typ, ohne_haube, anderes_stueck };
 struct Antennenblock {
     std::string text;  // the lines from START OF ANTENNA to END OF ANTENNA, CR LF dropped, LF kept
     Antennenfund fund = Antennenfund::nummer;
-    std::string name;       // type and serial number as the file has them
-    std::size_t zeile = 0;  // where that name stands in the file, counted from 1
+    std::string name;          // type and serial number as the file has them
+    std::size_t zeile = 0;     // where that name stands in the file, counted from 1
+    bool anderer_typ = false;  // found by its number under another type than the header's
 };
 
 /// The block for an antenna of that number and type (columns 1-20 and 21-40 of ANT # / TYPE, trimmed): the same serial

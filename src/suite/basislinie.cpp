@@ -170,6 +170,9 @@ std::optional<Antennenblock> Lauf::antenne(std::string_view antex, const Beobach
     herkunft = verkettet(m_aufruf.antennendatei, " Zeile ", block->zeile, ": ", block->name, ", ",
                          WIE[static_cast<std::size_t>(block->fund)]);
     m_protokoll.zeile(verkettet(wer, ": ", herkunft));
+    if (block->anderer_typ)
+        m_protokoll.warnung(
+            verkettet(wer, ": unter dieser Nummer ist ein anderer Typ kalibriert (", block->name, ")."));
     if (block->fund == Antennenfund::ohne_haube)
         m_protokoll.warnung(verkettet(wer, ": nur ohne Haube kalibriert (", block->name, ")."));
     if (block->fund == Antennenfund::anderes_stueck)

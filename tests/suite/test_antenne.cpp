@@ -41,6 +41,7 @@ TEST(Antenne, wird_nach_nummer_und_dann_nach_typ_gefunden)
     struct Fall {
         std::string nummer, typ, kennung;
         Antennenfund fund = Antennenfund::nummer;
+        bool anderer_typ = false;
     };
     const GpsZeit zeit = gps_zeit({2005, 4, 2, 0, 0, 0}).value();
     const std::vector<Fall> faelle = {
@@ -48,6 +49,7 @@ TEST(Antenne, wird_nach_nummer_und_dann_nach_typ_gefunden)
         {"A18", "TYP1", "A18"},
         {"a18", "", "A18"},
         {"A17", "TYP4            NONE", "anderer typ"},
+        {"A18", "TYP9            NONE", "A18", Antennenfund::nummer, true},
         {"A99", "TYP1            NONE", "mittel", Antennenfund::typ},
         {"", "TYP1", "mittel", Antennenfund::typ},
         {"", "TYP1            XYZ1", "mittel", Antennenfund::ohne_haube},
@@ -66,6 +68,7 @@ TEST(Antenne, wird_nach_nummer_und_dann_nach_typ_gefunden)
         EXPECT_NE(gefunden->text.find("\n" + f.kennung + " "), std::string::npos)
             << f.nummer << f.typ << gefunden->text;
         EXPECT_EQ(gefunden->fund, f.fund) << f.nummer << f.typ;
+        EXPECT_EQ(gefunden->anderer_typ, f.anderer_typ) << f.nummer << f.typ;
     }
 }
 

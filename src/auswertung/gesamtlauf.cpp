@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "auswertung/antennenwarnung.h"
 #include "auswertung/aufrufdatei.h"
 #include "auswertung/gesamt_batch.h"
 #include "auswertung/laufart.h"
@@ -34,6 +35,9 @@ Fehler nachsehen(Global& g, const Laufart& art)
     Auswahl auswahl;
     if (const Fehler fehler = auswaehlen(g, art, auswahl); ist_fehler(fehler)) return fehler;
     lauf_abschliessen(g, auswahl.wahl, auswahl.wahl, g.berechnete_ROVER);
+    Antennenwarnung antennen;
+    antennen.lesen(g, Verfahrens_Datei(g, ".LIS"));
+    antennen.melden(g);
     return Fehler::keiner;
 }
 

@@ -3,10 +3,12 @@
 #include <string>
 
 #include "auswertung/ablage.h"
+#include "auswertung/antennenwarnung.h"
 #include "auswertung/aufrufdatei.h"
 #include "auswertung/laufart.h"
 #include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
+#include "modell/Kontextmenue.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
@@ -39,6 +41,7 @@ public:
         baum_aufbauen(g);
         m_art.zusammenfassen(g);
         lauf_abschliessen(g, m_auswahl.wahl, m_fertig, m_bereit);
+        m_antennen.melden(g);
         return Fehler::keiner;
     }
 
@@ -85,6 +88,7 @@ private:
         m_art.auswerten(g, stueck, status);
         if (status == 99) return Fehler::gesetzt;
         if (m_art.ablegen(g, stueck)) ++m_fehler;
+        m_antennen.lesen(g, kontextdatei(g, "mnu_tree_lis_editieren", stueck), stueck);
         return Fehler::keiner;
     }
 
@@ -101,6 +105,7 @@ private:
     const Lauf_Umgebung& m_umgebung;
     const Laufart& m_art;
     Auswahl m_auswahl;
+    Antennenwarnung m_antennen;
     int m_fertig = 0;  // batches that have run
     int m_fehler = 0;
     int m_bereit;  // ready rovers before the run; the rebuilt tree counts the computed ones no more

@@ -132,6 +132,15 @@ TEST(Gesamtlauf, sagt_am_ende_was_fehlt)
                  s.legen("001.KRZ", eins + eins);
              };
          }},
+        {"Achtung!\n\nFür diese Antennen wurde keine Kalibrierung gefunden. An ihren Punkten wurde ohne "
+         "Antennenkorrektur gerechnet:\n\n\"7\" \"T\"\n   bei 5501092a.05o\n\n"
+         "Unbedingt die Berechnungsprotokolle einsehen!",
+         [&](Gesamtstand& s) {
+             s.kind = [&] {
+                 s.legen("001.KRZ", eins + eins);
+                 s.legen("001.LIS", "WARNUNG: Antenne \"7\" \"T\" der Datei 5501092a.05o fehlt in 001.ATX: x\r\n");
+             };
+         }},
         {"Achtung!\n\nEs wurden 1 Punkte mit \"Float-Lösung\" berechnet.\n\nEs wurden nur 1 von 2 Punkte berechnet.\n\n"
          "Unbedingt die Kurzprotokolldatei einsehen!",
          [](Gesamtstand& s) { s.kind = [&] { s.legen("001.KRZ", "5501 FloatDGNSS\r\n"); }; }},

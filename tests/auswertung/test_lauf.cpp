@@ -222,6 +222,42 @@ TEST(Lauf, sagt_am_ende_was_fehlt)
     }
 }
 
+TEST(Lauf, nennt_nicht_kalibrierte_antennen_einmal_am_ende)
+{
+    const auto warnung = [](const std::string& antenne, const std::string& datei) {
+        return "WARNUNG: Antenne " + antenne + " der Datei " + datei + " fehlt in 001.ATX: keine Korrektur.\r\n";
+    };
+    const std::string kopf =
+                          "Achtung!\n\nFür diese Antennen wurde keine Kalibrierung gefunden. An ihren Punkten wurde "
+                          "ohne Antennenkorrektur gerechnet:\n\n",
+                      schluss = "\nUnbedingt die Berechnungsprotokolle einsehen!";
+    struct {
+        std::string lis_1, lis_3;
+        std::string text;  // between head and end; empty: no message
+    } const tafel[] = {
+        {"", "", ""},
+        {"WARNUNG: Antenne \"7\" \"T\" der Datei x: nur ohne Haube kalibriert (T).\r\n", "", ""},
+        {warnung("\"\" \"TYP A\"", "virt092.05o") + warnung("\"\" \"TYP A\"", "virt092.05o"),
+         warnung("\"\" \"TYP A\"", "virt092.05o") + warnung("\"8 der Datei\" \"\"", "5503092a.05o"),
+         "\"\" \"TYP A\"\n   bei 5501092a.05o, 5503092a.05o\n\"8 der Datei\" \"\"\n   bei 5503092a.05o\n"}};
+    for (const auto& fall : tafel) {
+        Laufstand l;
+        const auto rechnen = [&l](const std::string& rover, const std::string& lis) {
+            l.kind[rover] = [&l, rover, lis] {
+                l.gute_rechnung(rover, "FixedL1");
+                l.legen("jorv_out\\lis_rov\\" + rover + ".LIS", lis);
+            };
+        };
+        rechnen("5501092a.05o", fall.lis_1);
+        rechnen("5503092a.05o", fall.lis_3);
+        EXPECT_EQ(l.laufen(), Fehler::keiner);
+        ASSERT_EQ(l.schirm.gezeigt.size(), fall.text.empty() ? 0u : 1u);
+        if (fall.text.empty()) continue;
+        EXPECT_EQ(l.schirm.einzige(), kopf + fall.text + schluss);
+        EXPECT_EQ(l.schirm.gezeigt[0].symbol, Symbol::warnung);
+    }
+}
+
 TEST(Lauf, ohne_eine_loesung_gibt_es_kein_kurzprotokoll)
 {
     Laufstand l({"5501092a.05o"});

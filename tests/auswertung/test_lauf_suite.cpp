@@ -7,6 +7,7 @@
 #include "app/start.h"
 #include "auswertung/gesamtlauf.h"
 #include "ganz/Programmlauf.h"
+#include "plattform/text.h"
 #include "projekt/verfahren.h"
 #include "simulator/beispiel.h"
 
@@ -65,6 +66,22 @@ TEST(LaufMitSuite, fremde_stationen_geben_dieselben_koordinaten_wie_die_eigenen)
     }
     EXPECT_THAT(lesen(netz.host("fremd/002.KRZ")), HasSubstr("Anzahl L1 fixed:    2\r\n"));
     EXPECT_THAT(lesen(netz.host("fremd/002.ALL")), HasSubstr("Anzahl L1 fixed:    2\r\n"));
+}
+
+// The stations' antennas are not in the project's file: computed without them, and told once.
+TEST(LaufMitSuite, eine_fehlende_kalibrierung_steht_im_protokoll_und_in_einer_meldung)
+{
+    const Netz netz("E");
+    const fs::path antex = netz.host("quelle/001.ATX");
+    const std::string text = ersetzt(ersetzt(lesen(antex), "JORREF2 ", "ANDERE  "), "JORD41002", "JORD51002");
+    ASSERT_NE(text, lesen(antex));
+    schreiben(antex, text);
+    const auto lauf = netz.gut({"auswerten", "1"});
+    EXPECT_EQ(lauf.err.find("keine Kalibrierung gefunden"), lauf.err.rfind("keine Kalibrierung gefunden"));
+    EXPECT_THAT(lauf.err, HasSubstr("\n\"4100210090\" \"JORREF2         JORD\"\n   bei 55011670.16o\n"
+                                    "\"4100210093\" \"JORREF2         JORD\"\n   bei 55041670.16o\n\n"));
+    EXPECT_THAT(lesen(netz.host("quelle/jorv_out/lis_rov/55011670.16o.LIS")),
+                HasSubstr("Kalibrierung Basis                  keine\r\n"));
 }
 
 TEST(LaufMitSuite, ohne_virtuelle_station_laesst_der_batch_den_loeser_aus)

@@ -296,6 +296,13 @@ TEST(Basislinie, rover_mit_einer_sekunde)
     EXPECT_NEAR(d.e, -27.409, 0.005);
     EXPECT_NEAR(d.n, -26.219, 0.005);
     EXPECT_NEAR(d.u, -0.041, 0.010);
+    // 31 km: too long for L1 unless it is asked for, and then it is said.
+    p.holen(echt() / "katalonien2010" / "mata0770.10o");
+    for (const bool verlangt : {false, true}) {
+        const Lauf lauf = p.wa2({"mata0770.10o", "upc10770.10o", "+R30", verlangt ? "+TL1" : "+L1"});
+        EXPECT_EQ(lauf.meldet("WARNUNG: L1 ist f"), verlangt);
+        EXPECT_EQ(lauf.protokoll.find("Lauf L1 ") != std::string::npos, verlangt) << lauf.protokoll;
+    }
 }
 
 }  // namespace jorv::suite

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "plattform/zahl.h"
+
 namespace jorv::suite {
 
 namespace {
@@ -45,10 +47,24 @@ TEST(Entscheidung, urteilt_nach_der_reihe_und_der_wahren_laenge)
         {"gut", {}, true, true, true},
         {"Verhaeltnis 4", {120, 20, 0, 4.0, 0.4}, true, false, true},
         {"Verhaeltnis 2.9", {120, 20, 0, 2.9, 0.4}, false, false, false},
+        {"Verhaeltnis genau 3", {120, 20, 0, 3.0, 0.4}, true, false, true},
+        {"Verhaeltnis genau 5", {120, 20, 0, 5.0, 0.4}, true, true, true},
+        {"s0 0.95", {120, 20, 0, 10, 0.867}, true, true, true},
+        {"s0 1.05", {120, 20, 0, 10, 0.958}, true, false, true},
+        {"s0 2.4", {120, 20, 0, 10, 2.19}, true, false, true},
+        {"s0 2.6", {120, 20, 0, 10, 2.37}, true, false, false},
+        {"s0 3.1", {120, 20, 0, 10, 2.83}, false, false, false},
         {"s0 1.5", {120, 20, 0, 10, 1.37}, true, false, true},
         {"s0 2.8", {120, 20, 0, 10, 2.55}, true, false, false},
         {"s0 4", {120, 20, 0, 10, 4.0}, false, false, false},
         {"erst spaet fest", {120, 100, 0, 10, 0.4}, true, false, true},
+        {"Anteil 0.50", {120, 90, 0, 10, 0.4}, true, true, true},
+        {"Anteil 0.48", {120, 91, 0, 10, 0.4}, true, false, true},
+        {"Anteil 0.25", {120, 105, 0, 10, 0.4}, true, false, true},
+        {"Anteil 0.23", {120, 106, 0, 10, 0.4}, false, false, true},
+        {"Anteil 0.10", {120, 114, 0, 10, 0.4}, false, false, true},
+        {"Anteil 0.08", {120, 115, 0, 10, 0.4}, false, false, false},
+        {"fuenf Epochen", {5, 0, 0, 10, 0.4}, true, true, true},
         {"am Ende offen, im letzten Zehntel fest", {120, 20, 5, 10, 0.4}, true, true, true},
         {"letztes Zehntel offen", {120, 20, 13, 10, 0.4}, false, false, false},
         {"vier Epochen", {4, 0, 0, 10, 0.4}, false, false, false},
@@ -56,8 +72,11 @@ TEST(Entscheidung, urteilt_nach_der_reihe_und_der_wahren_laenge)
     };
     for (const Fall& f : faelle) {
         const Loeserausgabe a = lauf(f.reihe);
-        EXPECT_EQ(urteilen(a, annahme_l1(3000)).angenommen, f.kurz) << f.name;
-        EXPECT_EQ(urteilen(a, annahme_l1(20000)).angenommen, f.mittel) << f.name;
+        const std::string s0 = fest(urteilen(a, ANNAHME_L0).masse.s0, 3);
+        for (const double laenge : {1.0, 3000.0, 15000.0})
+            EXPECT_EQ(urteilen(a, annahme_l1(laenge)).angenommen, f.kurz) << f.name << ", s0 " << s0;
+        for (const double laenge : {15001.0, 30000.0, 50000.0})  // beyond 30 km only when L1 is asked for
+            EXPECT_EQ(urteilen(a, annahme_l1(laenge)).angenommen, f.mittel) << f.name << ", s0 " << s0;
         EXPECT_EQ(urteilen(a, ANNAHME_L0).angenommen, f.l0) << f.name;
     }
     EXPECT_NEAR(urteilen(lauf({}), annahme_l1(3000)).masse.s0, 0.44, 0.05);
@@ -84,12 +103,14 @@ TEST(Entscheidung, plant_nach_art_laenge_und_frequenzen)
         return text;
     };
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, true)), "L1 L1+L2 L0 ");
-    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 31000, true)), "L0 ");
+    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 30000, true)), "L1 L1+L2 L0 ");
+    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 30001, true)), "L0 ");
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, false)), "L1 ");
     EXPECT_EQ(arten(plan(Loesungsart::l1, 50000, true)), "L1 L1+L2 ");
     EXPECT_EQ(arten(plan(Loesungsart::l0, 3000, true)), "L0 ");
     EXPECT_EQ(plan_offen(3000, true).front(), Laufart::offen);
-    EXPECT_EQ(plan_offen(20000, true).front(), Laufart::offen_l0);
+    EXPECT_EQ(plan_offen(15000, true).front(), Laufart::offen);
+    EXPECT_EQ(plan_offen(15001, true).front(), Laufart::offen_l0);
     EXPECT_EQ(plan_offen(20000, false).front(), Laufart::offen_l1);
 }
 

@@ -12,7 +12,6 @@ namespace jorv {
 namespace {
 
 constexpr double hoechstens_intervalle = 3;
-constexpr std::uint64_t wartefeld_ab = 64u << 20;  // bytes
 
 // The step that occurs most, to the millisecond.
 double intervall_von(const std::vector<Epoche>& epochen)
@@ -82,7 +81,7 @@ void Datendichten::lesen(Global& g, const std::vector<std::string>& namen)
         bytes += groesse;
         offen.push_back({&name, std::move(kennung)});
     }
-    const bool warten = bytes > wartefeld_ab;
+    const bool warten = bytes > m_wartefeld_ab;
     if (warten) g.oberflaeche->fortschritt_zeigen("Bitte warten (Beobachtungsdaten lesen)");
     for (auto& arbeit : offen) {
         if (warten && g.oberflaeche->ereignisse()) break;

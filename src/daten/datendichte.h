@@ -1,6 +1,7 @@
 // How densely a file is observed: the number of satellites along the time, and the gaps. For the bars of the dialogs.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
@@ -30,6 +31,9 @@ Datendichte dichte_aus(const std::vector<Epoche>& epochen);
 /// What was scanned so far of the open project's files. A file that changed since is scanned again.
 class Datendichten {
 public:
+    /// Above that many bytes to read the wait panel is shown.
+    explicit Datendichten(std::uint64_t wartefeld_ab = 64u << 20) : m_wartefeld_ab(wartefeld_ab) {}
+
     /// Scans those of the files that it doesn't know yet, with the wait panel when there is much to read; the abort
     /// button leaves the rest out. A file that can't be read has no density, which is no failure here.
     void lesen(Global& g, const std::vector<std::string>& namen);
@@ -42,6 +46,7 @@ private:
         Dateikennung Datei;
         Datendichte dichte;
     };
+    std::uint64_t m_wartefeld_ab;
     std::string m_verfahren;  // whose files these are
     std::map<std::string, Eintrag, std::less<>> m_dateien;
 };

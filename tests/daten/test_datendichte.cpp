@@ -66,6 +66,16 @@ TEST(Datendichten, ZeigenLueckenUndSatellitenUndMerkenSichDieDateien)
     p.g.Verfahrensnummer = "002";
     dichten.lesen(p.g, {});
     EXPECT_FALSE(dichten.von("a.16o"));
+
+    // Much to read can be left off behind the file at work.
+    schreiben(p.pfad("b.16o"), probe.text());
+    Datendichten viele(0);
+    p.schirm.abbruch_nach = p.schirm.ereignisse_zahl + 2;
+    viele.lesen(p.g, {"a.16o", "b.16o"});
+    EXPECT_EQ(p.schirm.fortschritt,
+              (std::vector<std::string>{"Bitte warten (Beobachtungsdaten lesen)", "(verborgen)"}));
+    EXPECT_TRUE(viele.von("a.16o"));
+    EXPECT_FALSE(viele.von("b.16o"));
 }
 
 }  // namespace jorv

@@ -39,12 +39,14 @@ struct Text {
 struct Ausnahme {
     std::string_view datei, teil, grund;
 };
-constexpr std::array<Ausnahme, 6> ausnahmen = {
+constexpr std::array<Ausnahme, 8> ausnahmen = {
     {{"antennentest.cpp", "Fehler beim Abgleich der Antennen-Daten zwischen:", "line of the short protocol"},
      {"antennentest.cpp", " ist nicht in der Antennendatei vorhanden!", "line of the short protocol"},
      {"antennentest.cpp", "nicht in der Antennendatei vorhanden!", "line of the short protocol"},
      {"antennentest.cpp", "x) in der Antennendatei vorhanden!", "line of the short protocol"},
      {"einstellungen_rover.cpp", "bitte im Handbuch nachlesen.", "text of a label"},
+     {"neuerungen.cpp", ">>> Fehler <<<", "text of the news box"},
+     {"neuerungen.cpp", "nicht gefunden!", "text of the news box"},
      {"verfahren.cpp", "Verfahren überschreiben?", "a folder that holds the file is not empty and refused before"}}};
 
 bool ist_ausnahme(const Text& text)

@@ -6,8 +6,8 @@
 #include "ui/Ausgabefenster.h"
 #include "ui/Betrachter.h"
 #include "ui/Fortschrittsfeld.h"
+#include "ui/Hauptfenster.h"
 #include "ui/frmDateien.h"
-#include "ui/frmHauptform.h"
 #include "ui/frmverfahr.h"
 #include "ui/qtext.h"
 

@@ -8,12 +8,12 @@
 
 namespace jorv {
 
-class frmHauptform;
+class Hauptfenster;
 
 class Fensterschirm final : public Oberflaeche {
 public:
     /// Until the main window is there, boxes stand alone and nothing else is shown.
-    void hauptform_setzen(frmHauptform* hauptform) { m_hauptform = hauptform; }
+    void hauptform_setzen(Hauptfenster* hauptform) { m_hauptform = hauptform; }
 
     using Oberflaeche::frage;
     using Oberflaeche::meldung;
@@ -36,7 +36,7 @@ public:
     void neues_verfahren(const Verfahrenswahl& vorschlag, std::string_view nummer, const Verfahrensanlage& ok) override;
 
 private:
-    frmHauptform* m_hauptform = nullptr;
+    Hauptfenster* m_hauptform = nullptr;
     bool m_sanduhr = false;
 };
 

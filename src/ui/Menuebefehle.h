@@ -5,10 +5,10 @@
 
 namespace jorv {
 
-class frmHauptform;
+class Hauptfenster;
 
 /// Runs the command of that name. False when it has no window or routine yet; the bar shows it grey.
-bool menuebefehl_ausfuehren(frmHauptform& form, std::string_view name);
+bool menuebefehl_ausfuehren(Hauptfenster& form, std::string_view name);
 
 /// Whether menuebefehl_ausfuehren knows the command.
 bool menuebefehl_vorhanden(std::string_view name);

@@ -394,14 +394,14 @@ void frmHauptform::lage_wiederherstellen()
 
 void frmHauptform::resizeEvent(QResizeEvent* ereignis)
 {
-    QMainWindow::resizeEvent(ereignis);
+    Hauptfenster::resizeEvent(ereignis);
     m_fortschritt->ausrichten();
     lage_merken();
 }
 
 void frmHauptform::moveEvent(QMoveEvent* ereignis)
 {
-    QMainWindow::moveEvent(ereignis);
+    Hauptfenster::moveEvent(ereignis);
     lage_merken();
 }
 

@@ -2,12 +2,11 @@
 // routines do to what the user does; it decides nothing of its own.
 #pragma once
 
-#include <QMainWindow>
 #include <functional>
 #include <memory>
 
 #include "daten/datendichte.h"
-#include "modell/Global.h"
+#include "ui/Hauptfenster.h"
 #include "ui/Menueleiste.h"
 
 class QLabel;
@@ -16,13 +15,10 @@ class QToolBar;
 
 namespace jorv {
 
-class Baumansicht;
 class Fensterschirm;
-class Fortschrittsfeld;
-class Kartenansicht;
 struct Baumfolge;
 
-class frmHauptform final : public QMainWindow {
+class frmHauptform final : public Hauptfenster {
 public:
     /// Both outlive the window. The window becomes the screen's main window.
     frmHauptform(Global& g, Fensterschirm& schirm);
@@ -31,30 +27,24 @@ public:
     /// What the first showing does, once: geometry, tree, catalogue, news, map, menus. Called behind show().
     void erste_aktivierung();
 
-    Global& g() { return m_g; }
-    Fortschrittsfeld& fortschritt() { return *m_fortschritt; }
-    Kartenansicht& karte() { return *pic_grafik; }
-    Baumansicht& baum() { return *tre_punkte; }
+    Global& g() override { return m_g; }
+    Fortschrittsfeld& fortschritt() override { return *m_fortschritt; }
+    Kartenansicht& karte() override { return *pic_grafik; }
+    Baumansicht& baum() override { return *tre_punkte; }
     /// The action of a menu entry; nullptr when there is none of that name.
     QAction* eintrag(const QString& name) const { return m_menue.eintrag(name); }
 
-    // The screen's wishes.
-    void baum_erneuern();
-    void karte_zeichnen(bool neu);
-    void menue_erneuern();
-    void titel_setzen(const QString& titel);
+    void baum_erneuern() override;
+    void karte_zeichnen(bool neu) override;
+    void menue_erneuern() override;
+    void titel_setzen(const QString& titel) override;
 
-    // Commands that only a window has.
-    void karte_in_ablage();
-    void karte_speichern();
-    void leiste_umschalten();
-    /// The time overview of entry `eintrag` of m_grafik_zeiten, 0 for the whole project.
-    void zeiten_zeigen(int eintrag);
+    void karte_in_ablage() override;
+    void karte_speichern() override;
+    void leiste_umschalten() override;
+    void zeiten_zeigen(int eintrag) override;
     /// A command of the context menu of a node.
     void baumbefehl(const std::string& name, const std::string& knoten, const std::string& eltern);
-
-    /// The file that m_protkoll_editieren opened last.
-    std::string editierte_datei;
 
 protected:
     void closeEvent(QCloseEvent* ereignis) override;

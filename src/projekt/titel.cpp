@@ -50,8 +50,10 @@ std::string Logo_laden(Global& g)
 {
     std::string datei = Logo_Datei(g);
     if (g.dateien.ist_datei(datei)) return datei;
-    stop_melden(
-        g, datei_meldung("Die Datei mit dem TOREL-Logo: ", datei, "wurde nicht gefunden! Bitte neu installieren."));
+    // At the start the program goes on without it: a warning.
+    g.oberflaeche->meldung(
+        g.Verfahren_offen() ? Symbol::stop : Symbol::warnung,
+        datei_meldung("Die Datei mit dem TOREL-Logo: ", datei, "wurde nicht gefunden! Bitte neu installieren."));
     return {};
 }
 

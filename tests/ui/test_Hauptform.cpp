@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QScrollBar>
@@ -83,6 +84,36 @@ struct Beispielfenster : Arbeitsplatz {
                 return;
             }
         ADD_FAILURE() << "no station " << pkz;
+    }
+    void neues_verfahren(const char* modus, const std::string& ordner)
+    {
+        Drehbuch buch;
+        buch.im("frmverfahr", [&](QWidget& dialog) {
+            klick(dialog, modus);
+            teil<QLineEdit>(dialog, "txt_name").setText("Waldweg");
+            teil<QLineEdit>(dialog, "txt_arbeit").setText(anzeige(dos(ordner)));
+            klick(dialog, "cmd_ok");
+        });
+        befehl("m_datei_neu");
+        EXPECT_EQ(g.Verfahrensname, "Waldweg");
+        EXPECT_THAT(form.windowTitle().toStdString(), HasSubstr("Waldweg"));
+    }
+    // A folder with the files of these points, to be taken in as a whole.
+    std::string auswahl(std::initializer_list<const char*> punkte) const
+    {
+        fs::create_directories(host("auswahl"));
+        for (const std::string punkt : punkte)
+            for (const char* art : {"1670.16o", "1670.16n"})
+                fs::copy_file(host("beispiel/rinex/" + punkt + art), host("auswahl/" + punkt + art),
+                              fs::copy_options::overwrite_existing);
+        return "auswahl";
+    }
+    void figur_klicken(const std::vector<std::string>& ecken)
+    {
+        for (const auto& pkz : ecken) station_klicken(pkz);
+        EXPECT_FALSE(g.geo_fertig);
+        station_klicken(ecken.front());
+        EXPECT_TRUE(g.geo_fertig) << ecken.front();
     }
     void dateien_aufnehmen(const char* befehlsname, const std::string& ordner)
     {
@@ -236,17 +267,7 @@ TEST(Hauptform, KarteZoomtUmDenZeigerUndFolgtMausUndTastatur)
 TEST(Hauptform, DerGanzeWegMitDerMaus)
 {
     Beispielfenster p;
-    {
-        Drehbuch buch;
-        buch.im("frmverfahr", [&](QWidget& dialog) {
-            teil<QLineEdit>(dialog, "txt_name").setText("Waldweg");
-            teil<QLineEdit>(dialog, "txt_arbeit").setText(anzeige(p.dos("verfahren")));
-            klick(dialog, "cmd_ok");
-        });
-        p.befehl("m_datei_neu");
-    }
-    EXPECT_EQ(p.g.Verfahrensname, "Waldweg");
-    EXPECT_THAT(p.form.windowTitle().toStdString(), HasSubstr("Waldweg"));
+    p.neues_verfahren("opt_modus1", "verfahren");
     p.dateien_aufnehmen("m_datei_rinex", "beispiel/rinex");
     p.dateien_aufnehmen("m_datei_antenne", "beispiel/antennen");
     EXPECT_EQ(p.g.OBS_R.anzahl(), 8);
@@ -257,11 +278,7 @@ TEST(Hauptform, DerGanzeWegMitDerMaus)
     std::istringstream figuren(lesen(p.host("beispiel/figuren.txt")));
     for (std::string zeile; std::getline(figuren, zeile);) {
         std::istringstream worte(zeile);
-        const std::vector<std::string> ecken(std::istream_iterator<std::string>(worte), {});
-        for (const auto& pkz : ecken) p.station_klicken(pkz);
-        EXPECT_FALSE(p.g.geo_fertig);
-        p.station_klicken(ecken.front());
-        EXPECT_TRUE(p.g.geo_fertig) << zeile;
+        p.figur_klicken({std::istream_iterator<std::string>(worte), {}});
     }
     EXPECT_EQ(p.g.berechnete_ROVER, 6);
     EXPECT_TRUE(p.form.eintrag("m_wasoft_run_n")->isEnabled());
@@ -326,6 +343,65 @@ struct Bereites_Verfahren : Beispielfenster {
 };
 
 }  // namespace
+
+TEST(Hauptform, DerGanzeWegInModusS)
+{
+    Beispielfenster p;
+    p.neues_verfahren("opt_modus2", "verfahren");
+    p.dateien_aufnehmen("m_datei_rinex", p.auswahl({"5501", "5504", "0590", "0591", "0593"}));
+    p.dateien_aufnehmen("m_datei_antenne", "beispiel/antennen");
+    p.befehl("m_grafik_orginal");
+    p.figur_klicken({"0590", "0591", "0593"});
+    p.befehl("m_wasoft_run_n");
+    EXPECT_EQ(knotentexte(p.g, "E_Datei").size(), 2u);
+}
+
+TEST(Hauptform, DerGanzeWegInModusF)
+{
+    Beispielfenster p;
+    const std::string rover = p.auswahl({"5501", "5504", "0590", "0591", "0593"});
+    for (const std::vector<std::string>& worte :
+         {std::vector<std::string>{"neu", "Quelle", "--modus", "E", "--verzeichnis", "quelle"},
+          {"rinex", "1", rover},
+          {"antennen", "1", "beispiel/antennen/antennen.atx"},
+          {"figur", "1", "0590", "0591", "0593"},
+          {"zeitfenster", "1", "an"},
+          {"auswerten", "1"}})
+        EXPECT_EQ(p.jorv(worte).status, 0) << worte[0];
+    EXPECT_FALSE(ist_fehler(ini_lesen_START(p.g)));
+    fs::remove_all(p.host(rover));
+    p.neues_verfahren("opt_modus3", "verfahren");
+    p.dateien_aufnehmen("m_datei_rinex", p.auswahl({"5501", "5504"}));
+    p.dateien_aufnehmen("m_datei_rinex", "quelle/jorv_out/rin_vrs");
+    p.dateien_aufnehmen("m_datei_antenne", "beispiel/antennen");
+    EXPECT_EQ(p.g.berechnete_ROVER, 2);
+    p.befehl("m_wasoft_run_n");
+    EXPECT_EQ(knotentexte(p.g, "E_Datei").size(), 2u);
+}
+
+TEST(Hauptform, DerGanzeWegInModusB)
+{
+    Beispielfenster p;
+    p.neues_verfahren("opt_modus4", "verfahren");
+    // 5502 and 5505 overlap 5501, which begins at nine, by more than half an hour.
+    p.dateien_aufnehmen("m_datei_rinex", p.auswahl({"5501", "5502", "5505"}));
+    p.dateien_aufnehmen("m_datei_antenne", "beispiel/antennen");
+    {
+        Drehbuch buch;
+        buch.im("frmBasisDialog", [](QWidget& dialog) {
+            for (const int nach : {1, 2}) {
+                teil<QComboBox>(dialog, "cbo_nach").setCurrentIndex(nach);
+                klick(dialog, "cmd_definieren");
+            }
+            klick(dialog, "Ende");
+        });
+        p.befehl("m_datei_basis_dialog");
+    }
+    EXPECT_EQ(knotentexte(p.g, "B_Datei").size(), 2u);
+    p.befehl("m_wasoft_run_n");
+    EXPECT_EQ(knotentexte(p.g, "BB_Datei").size(), 2u);
+    EXPECT_TRUE(fs::exists(p.host("verfahren/jorv_out/export/001.SIG")));
+}
 
 TEST(Hauptform, AbbruchEndetNachDemLaufendenROVER)
 {

@@ -1,11 +1,11 @@
 #include "suite/virtuelle_station.h"
 
 #include <algorithm>
-#include <map>
 
 #include "plattform/text.h"
 #include "plattform/zahl.h"
 #include "suite/koordinaten.h"
+#include "suite/netz.h"
 #include "suite/rinex_schreiben.h"
 #include "suite/spalten.h"
 #include "suite/stationen.h"
@@ -20,16 +20,11 @@ constexpr double WEIT = 50000.0;  // metres; beyond it a displaced station rarel
 
 constexpr std::string_view HERKUNFT_ANFANG = "VIRTUELLE STATION AUS ";
 
-// A station that may become the master.
-struct Kandidat {
-    std::string station;
-    std::vector<std::string> dateien;
-    Xyz ort;
-    double strecke = 0.0;
-};
+constexpr std::string_view HERKUNFT_NETZ = "NETZ";
+constexpr double NETZLUECKEN = 0.4;  // share of the observations that a network may cost
 
 struct Statistik {
-    std::size_t ohne_bahn = 0, ohne_code = 0, unter_maske = 0;
+    std::size_t ohne_bahn = 0, ohne_code = 0, unter_maske = 0, ohne_netz = 0;
     double groesste = 0.0, kleinste = 0.0;
 };
 
@@ -78,6 +73,18 @@ void verschieben(Messung& m, double strecke)
     dazu(Art::L2, strecke * FREQUENZ2 / LICHT);
 }
 
+void verbessern(Messung& m, const Korrektur& k)
+{
+    const auto dazu = [&](Art art, double betrag) {
+        double& wert = m.wert[static_cast<std::size_t>(art)];
+        if (wert != 0.0) wert += betrag;
+    };
+    for (const Art art : {Art::C1, Art::P1}) dazu(art, k.code1());
+    for (const Art art : {Art::C2, Art::P2}) dazu(art, k.code2());
+    dazu(Art::L1, k.l1 * FREQUENZ1 / LICHT);
+    dazu(Art::L2, k.l2 * FREQUENZ2 / LICHT);
+}
+
 class Lauf {
 public:
     Lauf(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll)
@@ -88,7 +95,8 @@ public:
 
 private:
     bool rover_lesen();
-    std::vector<Kandidat> kandidaten();
+    std::vector<Netzstation> kandidaten();
+    void netz_benutzen(const RinexBeobachtung& daten);
     std::optional<Beobachtungsdatei> master_lesen();
     bool navigation_bereitstellen();
     void uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach);
@@ -108,8 +116,11 @@ private:
     const std::vector<std::string> m_namen = m_ordner.namen();
     Xyz m_virtuell;
     Zeitspanne m_spanne;
-    Kandidat m_master;
+    Netzstation m_master;
+    std::vector<Netzstation> m_stationen;  // by distance, from the master on
     Navigation m_navigation;
+    Bahnen m_bahnen;
+    std::optional<Netz> m_netz;
     Statistik m_statistik;
 };
 
@@ -134,12 +145,12 @@ bool Lauf::rover_lesen()
     return true;
 }
 
-std::vector<Kandidat> Lauf::kandidaten()
+std::vector<Netzstation> Lauf::kandidaten()
 {
     const Koordinaten koordinaten(m_ordner, m_aufruf.koordinatendatei, m_protokoll);
-    std::vector<Kandidat> alle;
+    std::vector<Netzstation> alle;
     for (const std::string& station : m_aufruf.stationen) {
-        Kandidat k{station, stationsdateien(m_namen, station, m_aufruf.rover, m_spanne), {}, 0.0};
+        Netzstation k{station, stationsdateien(m_namen, station, m_aufruf.rover, m_spanne), {}, 0.0};
         if (k.dateien.empty()) {
             m_protokoll.warnung(verkettet("Keine Beobachtungsdatei der Station ", station, u8" für diesen Tag."_w));
             continue;
@@ -155,21 +166,22 @@ std::vector<Kandidat> Lauf::kandidaten()
         alle.push_back(std::move(k));
     }
     std::stable_sort(alle.begin(), alle.end(),
-                     [](const Kandidat& a, const Kandidat& b) { return a.strecke < b.strecke; });
+                     [](const Netzstation& a, const Netzstation& b) { return a.strecke < b.strecke; });
     return alle;
 }
 
 // The nearest station that has observed in the span.
 std::optional<Beobachtungsdatei> Lauf::master_lesen()
 {
-    for (const Kandidat& k : kandidaten()) {
-        m_protokoll.zeile(verkettet("Station          ", k.station, ", ", fest(k.strecke / 1000.0, 3), " km"));
-        auto daten = station_lesen(m_ordner, k.dateien, m_spanne, m_protokoll);
-        if (daten) {
-            m_master = k;
-            return daten;
-        }
-        m_protokoll.warnung(verkettet("Die Station ", k.station, " hat im Zeitraum nicht beobachtet."));
+    m_stationen = kandidaten();
+    for (const Netzstation& k : m_stationen)
+        m_protokoll.zeile(verkettet("Station          ", k.name, ", ", fest(k.strecke / 1000.0, 3), " km"));
+    while (!m_stationen.empty()) {
+        m_master = m_stationen.front();
+        auto daten = station_lesen(m_ordner, m_master.dateien, m_spanne, m_protokoll);
+        if (daten) return daten;
+        m_protokoll.warnung(verkettet("Die Station ", m_master.name, " hat im Zeitraum nicht beobachtet."));
+        m_stationen.erase(m_stationen.begin());
     }
     m_protokoll.fehler("Keine Referenzstation mit Beobachtungen im Zeitraum!");
     return {};
@@ -180,18 +192,17 @@ bool Lauf::navigation_bereitstellen()
     std::vector<std::string> dateien = m_master.dateien;
     for (const std::string& station : m_aufruf.stationen)
         for (std::string& name : stationsdateien(m_namen, station, m_aufruf.rover, m_spanne))
-            if (station != m_master.station) dateien.push_back(std::move(name));
+            if (station != m_master.name) dateien.push_back(std::move(name));
     dateien.push_back(m_aufruf.rover);
     m_navigation = navigation_suchen(m_ordner, dateien, true, m_protokoll);
     if (m_navigation.saetze.empty()) return abbruch("Keine Navigationsdatei gefunden!");
+    for (const Ephemeride& eph : m_navigation.saetze) m_bahnen[eph.satellit].push_back(eph);
     return true;
 }
 
 void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
 {
     const double maske = m_aufruf.elevation * GRAD;
-    std::map<int, std::vector<Ephemeride>> saetze;
-    for (const Ephemeride& eph : m_navigation.saetze) saetze[eph.satellit].push_back(eph);
     std::size_t behalten = 0;  // observations move forward in their own array
     for (Epoche& e : daten.epochen) {
         const Verschieber verschieber(von, nach, m_aufruf.modell, e.zeit);
@@ -199,7 +210,7 @@ void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
         for (std::size_t i = 0; i < e.anzahl; ++i) {
             Messung m = daten.messungen[e.erste + i];
             const double strecke = code(m);
-            const Ephemeride* eph = passende_ephemeride(saetze[m.satellit], m.satellit, e.zeit);
+            const Ephemeride* eph = passende_ephemeride(m_bahnen[m.satellit], m.satellit, e.zeit);
             m_statistik.ohne_code += strecke == 0.0;
             m_statistik.ohne_bahn += strecke != 0.0 && !eph;
             if (strecke == 0.0 || !eph) continue;
@@ -209,6 +220,12 @@ void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
             m_statistik.groesste = std::max(m_statistik.groesste, v.strecke);
             m_statistik.kleinste = std::min(m_statistik.kleinste, v.strecke);
             verschieben(m, v.strecke);
+            if (m_netz) {
+                const Korrektur* k = korrektur_suchen(m_netz->korrekturen, auf_sekunde(e.zeit).sekunde, m.satellit);
+                m_statistik.ohne_netz += !k;
+                if (!k) continue;
+                verbessern(m, *k);
+            }
             daten.messungen[behalten++] = m;
         }
         e.erste = erste;
@@ -218,10 +235,27 @@ void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
     std::erase_if(daten.epochen, [](const Epoche& e) { return e.anzahl == 0; });
 }
 
+// Whether the network's corrections reach far enough for this master; else the station stays a shifted one.
+void Lauf::netz_benutzen(const RinexBeobachtung& daten)
+{
+    m_netz = netz_rechnen({m_stationen, m_virtuell, m_spanne, m_aufruf.antennendatei}, m_bahnen, m_ordner, m_protokoll);
+    if (!m_netz) return;
+    RinexBeobachtung versuch = daten;
+    uebertragen(versuch, Ort(m_master.ort), Ort(m_virtuell));
+    const auto verloren = static_cast<double>(m_statistik.ohne_netz);
+    const double anteil = verloren / std::max(1.0, verloren + static_cast<double>(versuch.messungen.size()));
+    m_statistik = {};
+    if (anteil <= NETZLUECKEN) return;
+    m_protokoll.zeile(
+        verkettet("Netz             nicht benutzt: ", fest(100.0 * anteil, 0), " % der Beobachtungen fehlten"));
+    m_netz.reset();
+}
+
 void Lauf::kopf_setzen(RinexBeobachtung& daten, const Ort& nach)
 {
     RinexKopf& kopf = daten.kopf;
-    const Herkunft herkunft{m_master.station, m_master.strecke, nach.blh.hoehe - Ort(m_master.ort).blh.hoehe};
+    const Herkunft herkunft{m_master.name, m_master.strecke, nach.blh.hoehe - Ort(m_master.ort).blh.hoehe,
+                            m_netz.has_value()};
     kopf.kommentar_virtuell = herkunft_text(herkunft);
     kopf.marke = verkettet("virt", mitte(m_aufruf.rover, 1, 4));
     kopf.ort = nach.xyz;
@@ -236,8 +270,10 @@ bool Lauf::ausgeben(const RinexBeobachtung& daten)
         return abbruch(verkettet("Die Datei ", nav, " konnte nicht geschrieben werden!"));
     if (!m_ordner.schreiben(name, text))
         return abbruch(verkettet("Die Datei ", name, " konnte nicht geschrieben werden!"));
-    m_protokoll.meldung(verkettet("Virtuelle Station ", name, " aus ", m_master.station, " (",
-                                  fest(m_master.strecke / 1000.0, 3), " km), ", daten.epochen.size(), " Epochen"));
+    m_protokoll.meldung(verkettet("Virtuelle Station ", name, " aus ", m_master.name, " (",
+                                  fest(m_master.strecke / 1000.0, 3), " km)",
+                                  m_netz ? verkettet(" im Netz mit ", m_netz->stationen.size(), " Stationen") : "",
+                                  ", ", daten.epochen.size(), " Epochen"));
     return true;
 }
 
@@ -246,6 +282,12 @@ void Lauf::berichten(const RinexBeobachtung& daten)
     m_protokoll.zeile(verkettet("Virtuelle Station, verschoben mit ", m_aufruf.modell == Troposphaerenmodell::voll
                                                                           ? u8"voller Troposphäre"_w
                                                                           : u8"vereinfachter Troposphäre"_w));
+    if (m_netz) {
+        std::string namen;
+        for (const std::string& name : m_netz->stationen) namen += verkettet(" ", name);
+        m_protokoll.zeile(
+            verkettet("  im Netz mit   ", namen, ", ohne Korrektur weggelassen: ", m_statistik.ohne_netz));
+    }
     m_protokoll.zeile(verkettet("  Epochen        ", daten.epochen.size()));
     m_protokoll.zeile(verkettet("  Beobachtungen  ", daten.messungen.size()));
     m_protokoll.zeile(verkettet("  unter ", m_aufruf.elevation, " Grad weggelassen: ", m_statistik.unter_maske));
@@ -254,7 +296,7 @@ void Lauf::berichten(const RinexBeobachtung& daten)
         verkettet("  Verschiebung   ", fest(m_statistik.kleinste, 3), " bis ", fest(m_statistik.groesste, 3), " m"));
     if (m_master.strecke > WEIT)
         m_protokoll.warnung(
-            verkettet("Die Station ", m_master.station, " ist ", fest(m_master.strecke / 1000.0, 1), " km entfernt."));
+            verkettet("Die Station ", m_master.name, " ist ", fest(m_master.strecke / 1000.0, 1), " km entfernt."));
 }
 
 bool Lauf::rechnen()
@@ -263,6 +305,7 @@ bool Lauf::rechnen()
     auto daten = master_lesen();
     if (!daten || !navigation_bereitstellen()) return false;
     const Ort von(m_master.ort), nach(m_virtuell);
+    netz_benutzen(daten->daten);
     uebertragen(daten->daten, von, nach);
     if (daten->daten.epochen.empty()) return abbruch("Kein Satellit mit Beobachtungen und Bahn im Zeitraum!");
     kopf_setzen(daten->daten, nach);
@@ -279,7 +322,9 @@ std::string herkunft_text(const Herkunft& herkunft)
     anhaengen_fest(text, herkunft.strecke, 11, 1);
     text.append(" m  DH");
     anhaengen_fest(text, herkunft.hoehenunterschied, 9, 1);
-    return text.append(" m");
+    text.append(" m");
+    if (herkunft.netz) text.append(" ").append(HERKUNFT_NETZ);
+    return text;
 }
 
 std::optional<Herkunft> herkunft_lesen(std::string_view kommentar)
@@ -288,7 +333,7 @@ std::optional<Herkunft> herkunft_lesen(std::string_view kommentar)
     const std::string_view rest = kommentar.substr(HERKUNFT_ANFANG.size());
     const auto strecke = spaltenzahl(spalten(rest, 4, 11)), hoehe = spaltenzahl(spalten(rest, 21, 9));
     if (!strecke || !hoehe) return {};
-    return Herkunft{std::string(rest.substr(0, 4)), *strecke, *hoehe};
+    return Herkunft{std::string(rest.substr(0, 4)), *strecke, *hoehe, spalten(rest, 33, 4) == HERKUNFT_NETZ};
 }
 
 int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll)

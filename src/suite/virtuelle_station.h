@@ -1,6 +1,7 @@
 #pragma once
 // Program wav2: makes the observations of a virtual reference station at the rover's approximate place from those of
-// the nearest station, with a navigation file beside it.
+// the nearest station, corrected by the network of the other stations where these fit, with a navigation file beside
+// it.
 
 #include <optional>
 #include <string>
@@ -19,6 +20,7 @@ struct Herkunft {
     std::string station;
     double strecke = 0.0;            // metres from the virtual place
     double hoehenunterschied = 0.0;  // metres, virtual place minus station
+    bool netz = false;               // corrected by other stations, so that the distance counts less
 };
 
 /// The comment line of the header that carries it, and back; nothing when the text is no such comment.

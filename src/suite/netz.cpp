@@ -1,0 +1,121 @@
+#include "suite/netz.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "plattform/text.h"
+#include "plattform/zahl.h"
+#include "suite/stationen.h"
+
+namespace jorv::suite {
+
+namespace {
+
+constexpr double RAND = 1800.0;         // s by which the stations are read beyond the span: longer arcs fix better
+constexpr double HOECHSTGEWICHT = 1.5;  // sum of the weights' amounts; beyond it the plane is drawn out too far
+
+struct Gelesen {
+    std::vector<Restepoche> reste;
+    double intervall = 0.0;
+};
+
+class Netzlauf {
+public:
+    Netzlauf(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner, Protokoll& protokoll)
+        : m_auftrag(auftrag), m_bahnen(bahnen), m_ordner(ordner), m_protokoll(protokoll)
+    {
+        if (auftrag.antennendatei.empty()) return;
+        std::error_code fehler;
+        m_antex = ordner.lesen(auftrag.antennendatei, fehler);
+    }
+    std::optional<Netz> rechnen();
+
+private:
+    std::optional<Gelesen> lesen(const Netzstation& station);
+    void paar(const Netzstation& station, const Gelesen& master);
+    void ablehnen(std::string_view grund) { m_protokoll.zeile(verkettet("Netz             nicht benutzt: ", grund)); }
+
+    const Netzauftrag& m_auftrag;
+    const Bahnen& m_bahnen;
+    const Arbeitsordner& m_ordner;
+    Protokoll& m_protokoll;
+    Abbild m_antex;
+    std::vector<Hilfsstation> m_hilfen;
+};
+
+std::optional<Gelesen> Netzlauf::lesen(const Netzstation& station)
+{
+    const Zeitspanne weit{verschoben(m_auftrag.spanne.von, -RAND), verschoben(m_auftrag.spanne.bis, RAND)};
+    const auto datei = station_lesen(m_ordner, station.dateien, weit, m_protokoll);
+    if (!datei) return {};
+    const RinexKopf& kopf = datei->daten.kopf;
+    const auto block =
+        antenne_suchen(m_antex.text(), kopf.antennennummer, kopf.antennentyp, datei->daten.epochen.front().zeit);
+    const Ort ort(station.ort);
+    return Gelesen{stationsreste(datei->daten, ort, Phasenzentrum(kopf, block), m_bahnen), datei->daten.intervall()};
+}
+
+void Netzlauf::paar(const Netzstation& station, const Gelesen& master)
+{
+    const auto gelesen = lesen(station);
+    if (!gelesen) {
+        m_protokoll.warnung(verkettet("Die Station ", station.name, " hat im Zeitraum nicht beobachtet."));
+        return;
+    }
+    Paar paar = paar_loesen(master.reste, gelesen->reste, std::max(master.intervall, gelesen->intervall));
+    const std::string wer = verkettet(m_auftrag.stationen.front().name, " - ", station.name);
+    m_protokoll.zeile(verkettet(
+        "  ", wer, ", ", fest(laenge(station.ort - m_auftrag.stationen.front().ort) / 1000.0, 1), " km: ", paar.fest,
+        " von ", paar.boegen, u8" Mehrdeutigkeiten fest, Rest "_w, fest(paar.bruch, 3), " Zyklen, Zenitunterschied ",
+        fest(paar.zenit * 1000.0, 0), " mm: ", paar.brauchbar() ? "benutzt" : "abgelehnt"));
+    if (!paar.brauchbar()) {
+        m_protokoll.warnung(verkettet("Die Station ", station.name, " passt nicht zu ",
+                                      m_auftrag.stationen.front().name,
+                                      u8" (Koordinaten, Antenne oder Daten prüfen): nicht im Netz."_w));
+        return;
+    }
+    m_hilfen.push_back({station.name, station.ort, std::move(paar)});
+}
+
+std::optional<Netz> Netzlauf::rechnen()
+{
+    const auto& stationen = m_auftrag.stationen;
+    if (stationen.size() < 2) {
+        ablehnen("nur eine Station");
+        return {};
+    }
+    const auto master = lesen(stationen.front());
+    if (!master) return {};
+    m_protokoll.zeile("Netz, Festsetzung zwischen den Stationen");
+    for (std::size_t i = 1; i < std::min(stationen.size(), NETZSTATIONEN); ++i) paar(stationen[i], *master);
+    if (m_hilfen.empty()) {
+        ablehnen(u8"keine zweite Station läßt sich festsetzen"_w);
+        return {};
+    }
+    std::vector<Xyz> orte;
+    for (const Hilfsstation& h : m_hilfen) orte.push_back(h.ort);
+    const auto gewichte = ebenengewichte(Ort(stationen.front().ort), m_auftrag.virtuell, orte);
+    double summe = 0.0;
+    Netz netz;
+    for (std::size_t k = 0; k < gewichte.size(); ++k) {
+        summe += std::abs(gewichte[k]);
+        m_protokoll.zeile(verkettet("  Gewicht ", m_hilfen[k].name, " ", fest(gewichte[k], 3)));
+        netz.stationen.push_back(m_hilfen[k].name);
+    }
+    if (summe > HOECHSTGEWICHT) {
+        ablehnen(u8"der Rover liegt zu weit außerhalb"_w);
+        return {};
+    }
+    netz.korrekturen = korrekturen(m_hilfen, gewichte);
+    return netz;
+}
+
+}  // namespace
+
+std::optional<Netz> netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner,
+                                 Protokoll& protokoll)
+{
+    return Netzlauf(auftrag, bahnen, ordner, protokoll).rechnen();
+}
+
+}  // namespace jorv::suite

@@ -1,0 +1,127 @@
+#include "suite/netz_interpolation.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace jorv::suite {
+
+namespace {
+
+constexpr double AUF_LINIE = 0.02;  // smaller to larger moment of the stations' places
+constexpr double NAH = 100.0;       // metres; a distance below it weighs no more
+
+const Paarrest* rest_von(const Paarepoche& epoche, int satellit)
+{
+    const auto r = std::lower_bound(epoche.reste.begin(), epoche.reste.end(), satellit,
+                                    [](const Paarrest& a, int b) { return a.satellit < b; });
+    return r == epoche.reste.end() || r->satellit != satellit ? nullptr : &*r;
+}
+
+// The weighted sums of the residuals of the satellites that all stations have.
+Korrekturepoche summen(const std::vector<const Paarepoche*>& epochen, const std::vector<double>& gewichte)
+{
+    Korrekturepoche alle{epochen.front()->sekunde, {}};
+    for (const Paarrest& erster : epochen.front()->reste) {
+        Korrektur s{erster.satellit};
+        bool ueberall = true;
+        for (std::size_t k = 0; k < epochen.size() && ueberall; ++k) {
+            const Paarrest* r = rest_von(*epochen[k], erster.satellit);
+            ueberall = r != nullptr;
+            if (!r) continue;
+            s.l1 += gewichte[k] * r->l1;
+            s.l2 += gewichte[k] * r->l2;
+        }
+        if (ueberall) alle.werte.push_back(s);
+    }
+    return alle;
+}
+
+// The sums hold the stations' clocks, alike for all satellites. They go out with the mean change since the last epoch,
+// so that nothing steps when a satellite comes or goes; without any satellite in common, with the mean itself.
+void anschliessen(Korrekturepoche& neu, const Korrekturepoche& alt)
+{
+    double l1 = 0, l2 = 0, anzahl = 0;
+    for (const Korrektur& a : alt.werte)
+        for (const Korrektur& b : neu.werte)
+            if (a.satellit == b.satellit) {
+                l1 += a.l1 - b.l1;
+                l2 += a.l2 - b.l2;
+                anzahl += 1;
+            }
+    if (anzahl == 0) {
+        for (const Korrektur& b : neu.werte) {
+            l1 -= b.l1;
+            l2 -= b.l2;
+            anzahl += 1;
+        }
+    }
+    for (Korrektur& k : neu.werte) {
+        k.l1 += l1 / anzahl;
+        k.l2 += l2 / anzahl;
+    }
+}
+
+}  // namespace
+
+std::vector<double> ebenengewichte(const Ort& master, const Xyz& virtuell, const std::vector<Xyz>& stationen)
+{
+    const Enu v = enu(master, virtuell - master.xyz);
+    double ee = 0, en = 0, nn = 0;
+    std::vector<Enu> x;
+    std::vector<double> p;
+    for (const Xyz& ort : stationen) {
+        const Enu s = enu(master, ort - master.xyz);
+        const double strecke = std::max(NAH, laenge(ort - virtuell)), gewicht = 1.0 / (strecke * strecke);
+        x.push_back(s);
+        p.push_back(gewicht);
+        ee += gewicht * s.e * s.e;
+        en += gewicht * s.e * s.n;
+        nn += gewicht * s.n * s.n;
+    }
+    const double wurzel = std::hypot((ee - nn) / 2.0, en), gross = (ee + nn) / 2.0 + wurzel;
+    const double klein = (ee + nn) / 2.0 - wurzel, det = ee * nn - en * en;
+    std::vector<double> gewichte;
+    if (klein > AUF_LINIE * gross) {
+        const double a = (nn * v.e - en * v.n) / det, b = (ee * v.n - en * v.e) / det;
+        for (std::size_t k = 0; k < x.size(); ++k) gewichte.push_back(p[k] * (a * x[k].e + b * x[k].n));
+        return gewichte;
+    }
+    const double winkel = std::atan2(2.0 * en, ee - nn) / 2.0, ce = std::cos(winkel), cn = std::sin(winkel);
+    for (std::size_t k = 0; k < x.size(); ++k)
+        gewichte.push_back((v.e * ce + v.n * cn) * p[k] * (x[k].e * ce + x[k].n * cn) / gross);
+    return gewichte;
+}
+
+std::vector<Korrekturepoche> korrekturen(const std::vector<Hilfsstation>& stationen,
+                                         const std::vector<double>& gewichte)
+{
+    std::vector<Korrekturepoche> alle;
+    if (stationen.empty()) return alle;
+    std::vector<std::size_t> stelle(stationen.size());
+    for (const Paarepoche& e : stationen.front().paar.epochen) {
+        std::vector<const Paarepoche*> epochen;
+        for (std::size_t k = 0; k < stationen.size(); ++k) {
+            const auto& reihe = stationen[k].paar.epochen;
+            while (stelle[k] < reihe.size() && reihe[stelle[k]].sekunde < e.sekunde) ++stelle[k];
+            if (stelle[k] < reihe.size() && reihe[stelle[k]].sekunde == e.sekunde) epochen.push_back(&reihe[stelle[k]]);
+        }
+        if (epochen.size() < stationen.size()) continue;
+        Korrekturepoche k = summen(epochen, gewichte);
+        if (k.werte.size() < 2) continue;
+        anschliessen(k, alle.empty() ? Korrekturepoche{} : alle.back());
+        alle.push_back(std::move(k));
+    }
+    return alle;
+}
+
+const Korrektur* korrektur_suchen(const std::vector<Korrekturepoche>& alle, std::int64_t sekunde, int satellit)
+{
+    const auto e = std::lower_bound(alle.begin(), alle.end(), sekunde,
+                                    [](const Korrekturepoche& a, std::int64_t b) { return a.sekunde < b; });
+    if (e == alle.end() || e->sekunde != sekunde) return nullptr;
+    const auto k =
+        std::find_if(e->werte.begin(), e->werte.end(), [&](const Korrektur& a) { return a.satellit == satellit; });
+    return k == e->werte.end() ? nullptr : &*k;
+}
+
+}  // namespace jorv::suite

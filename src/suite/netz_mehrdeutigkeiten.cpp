@@ -1,0 +1,442 @@
+#include "suite/netz_mehrdeutigkeiten.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "suite/troposphaere.h"
+
+namespace jorv::suite {
+
+namespace {
+
+constexpr double LAMBDA1 = LICHT / FREQUENZ1, LAMBDA2 = LICHT / FREQUENZ2;
+constexpr double WEITSPUR = LICHT / (FREQUENZ1 - FREQUENZ2), ENGSPUR = LICHT / (FREQUENZ1 + FREQUENZ2);
+constexpr double QUADRATE = FREQUENZ1 * FREQUENZ1 - FREQUENZ2 * FREQUENZ2;
+constexpr double B1 = FREQUENZ1 * FREQUENZ1 / QUADRATE, B2 = -FREQUENZ2 * FREQUENZ2 / QUADRATE;
+
+constexpr double HOCH_GENUG = 6.0 * GRAD;
+constexpr double NOMINELL = 0.1;                          // s by which a tag may lie beside the full second
+constexpr double LUECKE = 90.0;                           // s, or three intervals
+constexpr double SPRUNG_IONO = 0.06, SPRUNG_FREI = 0.08;  // metres from one epoch to the next
+constexpr std::size_t BOGEN_EPOCHEN = 10;
+constexpr std::int64_t BOGEN_DAUER = 270;  // s
+constexpr double SIGMA = 0.010;            // of an ionosphere-free difference in the zenith each 30 s, metres
+constexpr double TAKT = 30.0;
+constexpr double SIGMA_ZENIT = 0.15, SIGMA_GANG = 0.03;  // metres, metres per hour
+constexpr double SICHER = 0.12, NAHE = 0.25;             // cycles
+constexpr double BRUCH_HOECHSTENS = 0.13;
+
+double code1(const Messung& m)
+{
+    return m[Art::C1] != 0.0 ? m[Art::C1] : m[Art::P1];
+}
+
+double code2(const Messung& m)
+{
+    return m[Art::P2] != 0.0 ? m[Art::P2] : m[Art::C2];
+}
+
+bool verloren(const Messung& m)
+{
+    const auto schlupf = [&](Art art) {
+        const char c = m.schlupf[static_cast<std::size_t>(art)];
+        return c >= '0' && c <= '9' && (c - '0') % 2 == 1;
+    };
+    return schlupf(Art::L1) || schlupf(Art::L2);
+}
+
+// The running number of a satellite's arc at one station.
+struct Faden {
+    int bogen = 0;
+    std::optional<GpsZeit> zuletzt;
+};
+
+class Stationsrechner {
+public:
+    Stationsrechner(const Ort& ort, const Phasenzentrum& zentrum, const GpsZeit& zeit)
+        : m_ort(ort),
+          m_zentrum(zentrum),
+          m_luft(Troposphaerenmodell::voll, ort.blh, static_cast<double>(tag_im_jahr(zeit))),
+          m_niell(ort.blh, static_cast<double>(tag_im_jahr(zeit)))
+    {
+    }
+    std::optional<Rest> rechnen(const Messung& m, const Ephemeride& eph, const GpsZeit& zeit) const
+    {
+        const double code = code1(m);
+        const Satellitenlage lage = satellitenlage(eph, verschoben(zeit, -code / LICHT));
+        const Xyz sendung = lage.nach(-lage.uhr);
+        double dauer = code / LICHT;
+        for (int i = 0; i < 4; ++i) dauer = laenge(gedreht(sendung, dauer) - m_ort.xyz) / LICHT;
+        const Enu weg = enu(m_ort, gedreht(sendung, dauer) - m_ort.xyz);
+        const double strecke = dauer * LICHT;
+        const Enu richtung{weg.e / strecke, weg.n / strecke, weg.u / strecke};
+        const double hoehe = std::asin(richtung.u);
+        if (hoehe < HOCH_GENUG) return {};
+        const double modell = strecke - LICHT * lage.uhr + m_luft.laufzeit(hoehe);
+        Rest r;
+        r.satellit = m.satellit;
+        r.l1 = m[Art::L1] * LAMBDA1 - modell - m_zentrum.laenger(0, richtung);
+        r.l2 = m[Art::L2] * LAMBDA2 - modell - m_zentrum.laenger(1, richtung);
+        r.c1 = code - modell;
+        r.p2 = code2(m) - modell;
+        r.sinus = richtung.u;
+        r.feucht = m_niell.bei(hoehe).feucht;
+        return r;
+    }
+
+private:
+    const Ort& m_ort;
+    const Phasenzentrum& m_zentrum;
+    Luft m_luft;
+    Niell m_niell;
+};
+
+// A satellite's difference of two stations in one epoch.
+struct Differenz {
+    int satellit = 0;
+    std::size_t bogen = 0;
+    double l1 = 0, l2 = 0, weit = 0;  // metres; the last is phase wide lane less code narrow lane
+    double sinus = 0, feucht = 0;
+    double frei() const { return B1 * l1 + B2 * l2; }
+};
+struct Differenzepoche {
+    std::int64_t sekunde = 0;
+    std::vector<Differenz> werte;
+};
+
+struct Bogen {
+    std::size_t epochen = 0;
+    std::int64_t von = 0, bis = 0;
+    double gewicht = 0, weit = 0;  // sums
+    double nw = 0, n1 = 0;         // integers relative to those of the reference arc
+    double anfang = 0;             // metres taken off before the adjustment, a multiple of the narrow lane
+    bool benutzt = false, fest = false;
+};
+
+Differenz differenz(const Rest& a, const Rest& b)
+{
+    const double l1 = b.l1 - a.l1, l2 = b.l2 - a.l2, c1 = b.c1 - a.c1, p2 = b.p2 - a.p2;
+    const double weit = (FREQUENZ1 * l1 - FREQUENZ2 * l2) / (FREQUENZ1 - FREQUENZ2) -
+                        (FREQUENZ1 * c1 + FREQUENZ2 * p2) / (FREQUENZ1 + FREQUENZ2);
+    return {a.satellit, 0, l1, l2, weit, std::min(a.sinus, b.sinus), (a.feucht + b.feucht) / 2.0};
+}
+
+double median(std::vector<double> werte)
+{
+    const auto mitte = werte.begin() + static_cast<std::ptrdiff_t>(werte.size() / 2);
+    std::nth_element(werte.begin(), mitte, werte.end());
+    return *mitte;
+}
+
+// Positive definite normal equations, dense.
+class Normalgleichung {
+public:
+    explicit Normalgleichung(std::size_t n) : m_n(n), m_matrix(n * n), m_rechts(n) {}
+    double& bei(std::size_t i, std::size_t k) { return m_matrix[i * m_n + k]; }
+    double& rechts(std::size_t i) { return m_rechts[i]; }
+
+    struct Loesung {
+        std::vector<double> wert, sigma;
+    };
+    /// Solution of the unknowns that are free, the others held at their values. Nothing when it is singular.
+    std::optional<Loesung> loesen(const std::vector<bool>& frei, const std::vector<double>& gehalten) const;
+
+private:
+    std::size_t m_n;
+    std::vector<double> m_matrix, m_rechts;
+};
+
+std::optional<Normalgleichung::Loesung> Normalgleichung::loesen(const std::vector<bool>& frei,
+                                                                const std::vector<double>& gehalten) const
+{
+    std::vector<std::size_t> wer;
+    for (std::size_t i = 0; i < m_n; ++i)
+        if (frei[i]) wer.push_back(i);
+    const std::size_t n = wer.size();
+    std::vector<double> u(n * n), y(n);
+    const auto bei = [&](std::size_t i, std::size_t k) -> double& { return u[i * n + k]; };
+    for (std::size_t i = 0; i < n; ++i) {  // Cholesky, lower triangle
+        for (std::size_t k = 0; k <= i; ++k) {
+            double s = m_matrix[wer[i] * m_n + wer[k]];
+            for (std::size_t j = 0; j < k; ++j) s -= bei(i, j) * bei(k, j);
+            if (i == k && s <= 0.0) return {};
+            bei(i, k) = i == k ? std::sqrt(s) : s / bei(k, k);
+        }
+        double s = m_rechts[wer[i]];
+        for (std::size_t j = 0; j < m_n; ++j)
+            if (!frei[j]) s -= m_matrix[wer[i] * m_n + j] * gehalten[j];
+        for (std::size_t j = 0; j < i; ++j) s -= bei(i, j) * y[j];
+        y[i] = s / bei(i, i);
+    }
+    Loesung l{gehalten, std::vector<double>(m_n)};
+    std::vector<double> spalte(n);  // of the inverse of the triangle: its squares add up to a variance
+    for (std::size_t i = 0; i < n; ++i) {
+        double q = 0;
+        for (std::size_t k = i; k < n; ++k) {
+            double s = k == i ? 1.0 : 0.0;
+            for (std::size_t j = i; j < k; ++j) s -= bei(k, j) * spalte[j];
+            spalte[k] = s / bei(k, k);
+            q += spalte[k] * spalte[k];
+        }
+        l.sigma[wer[i]] = std::sqrt(q);
+    }
+    for (std::size_t i = n; i-- > 0;) {
+        double s = y[i];
+        for (std::size_t k = i + 1; k < n; ++k) s -= bei(k, i) * l.wert[wer[k]];
+        l.wert[wer[i]] = s / bei(i, i);
+    }
+    return l;
+}
+
+class Paarrechner {
+public:
+    Paarrechner(double intervall) : m_intervall(intervall) {}
+    Paar rechnen(const std::vector<Restepoche>& erste, const std::vector<Restepoche>& zweite);
+
+private:
+    // The arc that a satellite is in.
+    struct Stand {
+        std::size_t bogen = 0;
+        int bogen_a = 0, bogen_b = 0;
+        std::int64_t sekunde = 0;
+        double l1 = 0, l2 = 0, frei = 0;
+    };
+    void epoche(const Restepoche& a, const Restepoche& b);
+    void boegen_waehlen();
+    void weitspur();
+    Normalgleichung normalgleichung(double mitte) const;
+    void engspur(Paar& paar);
+    void ergebnis(Paar& paar) const;
+    double gewicht(const Differenz& d) const { return d.sinus * d.sinus * std::min(1.0, m_intervall / TAKT); }
+
+    double m_intervall;
+    std::vector<Differenzepoche> m_epochen;
+    std::vector<Bogen> m_boegen;
+    std::map<int, Stand> m_stand;
+    std::size_t m_bezug = 0;
+};
+
+void Paarrechner::epoche(const Restepoche& a, const Restepoche& b)
+{
+    struct Neu {
+        Differenz d;
+        int bogen_a, bogen_b;
+        bool weiter;
+    };
+    std::vector<Neu> neue;
+    std::vector<double> zuwachs;
+    for (std::size_t i = 0, k = 0; i < a.reste.size() && k < b.reste.size();) {
+        const Rest &x = a.reste[i], &y = b.reste[k];
+        if (x.satellit != y.satellit) {
+            ++(x.satellit < y.satellit ? i : k);
+            continue;
+        }
+        Neu n{differenz(x, y), x.bogen, y.bogen, false};
+        const auto alt = m_stand.find(x.satellit);
+        if (alt != m_stand.end()) {
+            const Stand& s = alt->second;
+            n.weiter = s.bogen_a == x.bogen && s.bogen_b == y.bogen &&
+                       static_cast<double>(a.sekunde - s.sekunde) <= std::max(LUECKE, 3.0 * m_intervall) &&
+                       std::abs((n.d.l1 - n.d.l2) - (s.l1 - s.l2)) <= SPRUNG_IONO;
+            if (n.weiter) zuwachs.push_back(n.d.frei() - s.frei);
+        }
+        neue.push_back(n);
+        ++i, ++k;
+    }
+    // Both clocks move all satellites alike; who moves differently has slipped by the same way on both frequencies.
+    const double uhr = zuwachs.empty() ? 0.0 : median(zuwachs);
+    Differenzepoche e{a.sekunde, {}};
+    for (Neu& n : neue) {
+        Stand& s = m_stand[n.d.satellit];
+        if (n.weiter && zuwachs.size() > 2 && std::abs(n.d.frei() - s.frei - uhr) > SPRUNG_FREI) n.weiter = false;
+        if (!n.weiter) {
+            s.bogen = m_boegen.size();
+            m_boegen.emplace_back();
+            m_boegen.back().von = a.sekunde;
+        }
+        s = {s.bogen, n.bogen_a, n.bogen_b, a.sekunde, n.d.l1, n.d.l2, n.d.frei()};
+        n.d.bogen = s.bogen;
+        Bogen& bogen = m_boegen[s.bogen];
+        ++bogen.epochen;
+        bogen.bis = a.sekunde;
+        bogen.gewicht += gewicht(n.d);
+        bogen.weit += gewicht(n.d) * n.d.weit;
+        e.werte.push_back(n.d);
+    }
+    if (!e.werte.empty()) m_epochen.push_back(std::move(e));
+}
+
+void Paarrechner::boegen_waehlen()
+{
+    m_bezug = m_boegen.size();
+    for (std::size_t i = 0; i < m_boegen.size(); ++i) {
+        Bogen& b = m_boegen[i];
+        b.benutzt = b.epochen >= BOGEN_EPOCHEN && b.bis - b.von >= BOGEN_DAUER;
+        if (b.benutzt && (m_bezug == m_boegen.size() || b.gewicht > m_boegen[m_bezug].gewicht)) m_bezug = i;
+    }
+}
+
+void Paarrechner::weitspur()
+{
+    const double bezug = m_boegen[m_bezug].weit / m_boegen[m_bezug].gewicht;
+    for (Bogen& b : m_boegen) b.nw = std::round((b.weit / b.gewicht - bezug) / WEITSPUR);
+    for (const Differenzepoche& e : m_epochen)
+        for (const Differenz& d : e.werte) {
+            Bogen& b = m_boegen[d.bogen];
+            if (e.sekunde == b.von) b.anfang = std::round((d.frei() + B2 * LAMBDA2 * b.nw) / ENGSPUR) * ENGSPUR;
+        }
+}
+
+// Unknowns: one narrow-lane integer for each arc, then offset and hourly rate of the relative zenith delay.
+Normalgleichung Paarrechner::normalgleichung(double mitte) const
+{
+    const std::size_t n = m_boegen.size();
+    Normalgleichung g(n + 2);
+    std::vector<double> summe(n + 2);
+    for (const Differenzepoche& e : m_epochen) {
+        const double stunde = (static_cast<double>(e.sekunde) - mitte) / 3600.0;
+        double gewichte = 0, summe_y = 0;
+        std::fill(summe.begin(), summe.end(), 0.0);
+        std::vector<std::size_t> beteiligt;
+        for (const Differenz& d : e.werte) {
+            const Bogen& b = m_boegen[d.bogen];
+            if (!b.benutzt) continue;
+            const double w = gewicht(d) / (SIGMA * SIGMA), y = d.frei() + B2 * LAMBDA2 * b.nw - b.anfang;
+            const std::array<std::size_t, 3> stelle = {d.bogen, n, n + 1};
+            const std::array<double, 3> x = {ENGSPUR, d.feucht, d.feucht * stunde};
+            for (std::size_t i = 0; i < 3; ++i) {
+                for (std::size_t k = 0; k < 3; ++k) g.bei(stelle[i], stelle[k]) += w * x[i] * x[k];
+                g.rechts(stelle[i]) += w * x[i] * y;
+                summe[stelle[i]] += w * x[i];
+            }
+            beteiligt.push_back(d.bogen);
+            gewichte += w;
+            summe_y += w * y;
+        }
+        if (beteiligt.empty()) continue;
+        beteiligt.insert(beteiligt.end(), {n, n + 1});
+        for (const std::size_t i : beteiligt) {  // the epoch's clocks go out with the weighted mean
+            for (const std::size_t k : beteiligt) g.bei(i, k) -= summe[i] * summe[k] / gewichte;
+            g.rechts(i) -= summe[i] * summe_y / gewichte;
+        }
+    }
+    for (std::size_t i = 0; i < n; ++i) g.bei(i, i) += 1e-8;  // arcs that nothing ties to the reference
+    g.bei(n, n) += 1.0 / (SIGMA_ZENIT * SIGMA_ZENIT);
+    g.bei(n + 1, n + 1) += 1.0 / (SIGMA_GANG * SIGMA_GANG);
+    return g;
+}
+
+void Paarrechner::engspur(Paar& paar)
+{
+    const std::size_t n = m_boegen.size();
+    const double mitte = static_cast<double>(m_epochen.front().sekunde + m_epochen.back().sekunde) / 2.0;
+    const Normalgleichung g = normalgleichung(mitte);
+    std::vector<bool> frei(n + 2, true);
+    std::vector<double> gehalten(n + 2);
+    for (std::size_t i = 0; i < n; ++i) frei[i] = m_boegen[i].benutzt && i != m_bezug;
+    m_boegen[m_bezug].fest = true;
+    double quadrate = 0;
+    for (;;) {
+        const auto l = g.loesen(frei, gehalten);
+        if (!l) break;
+        paar.zenit = l->wert[n];
+        std::size_t bester = n;
+        for (std::size_t i = 0; i < n; ++i) {
+            const double bruch = l->wert[i] - std::round(l->wert[i]);
+            if (!frei[i] || l->sigma[i] >= SICHER || std::abs(bruch) >= NAHE) continue;
+            if (bester == n || l->sigma[i] < l->sigma[bester]) bester = i;
+        }
+        if (bester == n) break;
+        const double ganz = std::round(l->wert[bester]), bruch = l->wert[bester] - ganz;
+        quadrate += bruch * bruch;
+        frei[bester] = false;
+        gehalten[bester] = ganz;
+        m_boegen[bester].fest = true;
+        m_boegen[bester].n1 = ganz;
+        ++paar.fest;
+    }
+    paar.bruch = paar.fest > 0 ? std::sqrt(quadrate / static_cast<double>(paar.fest)) : 0.0;
+}
+
+void Paarrechner::ergebnis(Paar& paar) const
+{
+    for (const Bogen& b : m_boegen) paar.boegen += b.benutzt;
+    if (paar.boegen > 0) --paar.boegen;  // the reference has nothing to fix
+    for (const Differenzepoche& e : m_epochen) {
+        Paarepoche p{e.sekunde, {}};
+        for (const Differenz& d : e.werte) {
+            const Bogen& b = m_boegen[d.bogen];
+            if (!b.fest) continue;
+            const double n1 = b.n1 + std::round(b.anfang / ENGSPUR);
+            p.reste.push_back({d.satellit, d.l1 - LAMBDA1 * n1, d.l2 - LAMBDA2 * (n1 - b.nw)});
+        }
+        if (p.reste.size() > 1) paar.epochen.push_back(std::move(p));
+    }
+}
+
+Paar Paarrechner::rechnen(const std::vector<Restepoche>& erste, const std::vector<Restepoche>& zweite)
+{
+    Paar paar;
+    for (std::size_t i = 0, k = 0; i < erste.size() && k < zweite.size();) {
+        if (erste[i].sekunde == zweite[k].sekunde)
+            epoche(erste[i++], zweite[k++]);
+        else
+            ++(erste[i].sekunde < zweite[k].sekunde ? i : k);
+    }
+    boegen_waehlen();
+    if (m_bezug == m_boegen.size()) return paar;
+    weitspur();
+    engspur(paar);
+    ergebnis(paar);
+    return paar;
+}
+
+}  // namespace
+
+std::vector<Restepoche> stationsreste(const RinexBeobachtung& daten, const Ort& ort, const Phasenzentrum& zentrum,
+                                      const Bahnen& bahnen)
+{
+    std::vector<Restepoche> alle;
+    if (daten.epochen.empty()) return alle;
+    const Stationsrechner rechner(ort, zentrum, daten.epochen.front().zeit);
+    const double luecke = std::max(LUECKE, 3.0 * daten.intervall());
+    std::map<int, Faden> faeden;
+    for (const Epoche& e : daten.epochen) {
+        const GpsZeit nominell = auf_sekunde(e.zeit);
+        if (e.kennung == 1)
+            for (auto& [satellit, faden] : faeden) ++faden.bogen;
+        Restepoche epoche{nominell.sekunde, {}};
+        for (std::size_t i = 0; i < e.anzahl; ++i) {
+            const Messung& m = daten.messungen[e.erste + i];
+            Faden& faden = faeden[m.satellit];
+            if (verloren(m) || (faden.zuletzt && abstand(e.zeit, *faden.zuletzt) > luecke)) ++faden.bogen;
+            faden.zuletzt = e.zeit;
+            if (m[Art::L1] == 0.0 || m[Art::L2] == 0.0 || code1(m) == 0.0 || code2(m) == 0.0) continue;
+            const auto satz = bahnen.find(m.satellit);
+            const Ephemeride* eph =
+                satz == bahnen.end() ? nullptr : passende_ephemeride(satz->second, m.satellit, nominell);
+            if (!eph) continue;
+            auto rest = rechner.rechnen(m, *eph, e.zeit);
+            if (!rest) continue;
+            rest->bogen = faden.bogen;
+            epoche.reste.push_back(*rest);
+        }
+        std::sort(epoche.reste.begin(), epoche.reste.end(),
+                  [](const Rest& a, const Rest& b) { return a.satellit < b.satellit; });
+        const bool doppelt = !alle.empty() && alle.back().sekunde == epoche.sekunde;
+        if (!doppelt && std::abs(abstand(e.zeit, nominell)) < NOMINELL) alle.push_back(std::move(epoche));
+    }
+    return alle;
+}
+
+bool Paar::brauchbar() const
+{
+    return fest >= 3 && 2 * fest >= boegen && bruch <= BRUCH_HOECHSTENS;
+}
+
+Paar paar_loesen(const std::vector<Restepoche>& erste, const std::vector<Restepoche>& zweite, double intervall)
+{
+    return Paarrechner(intervall).rechnen(erste, zweite);
+}
+
+}  // namespace jorv::suite

@@ -1,0 +1,60 @@
+#pragma once
+// Fixes the ambiguities between two stations of known place: what remains of their phases then is the difference of the
+// atmosphere, of the orbit's errors and of the noise, from which the corrections of a virtual station are interpolated.
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "suite/bahn.h"
+#include "suite/phasenzentrum.h"
+#include "suite/rinex_beobachtung.h"
+
+namespace jorv::suite {
+
+using Bahnen = std::map<int, std::vector<Ephemeride>>;  // by satellite
+
+/// What a station measured to one satellite, less the way to it, satellite clock, modelled troposphere and antenna.
+struct Rest {
+    int satellit = 0;
+    int bogen = 0;                          // counts the station's own interruptions of that satellite
+    double l1 = 0, l2 = 0, c1 = 0, p2 = 0;  // metres
+    double sinus = 0;                       // of the elevation
+    double feucht = 0;                      // mapping of a wet zenith delay
+};
+struct Restepoche {
+    std::int64_t sekunde = 0;  // GPS, the nominal one
+    std::vector<Rest> reste;   // by satellite
+};
+
+/// The residuals of all dual-frequency observations over 6 degrees.
+std::vector<Restepoche> stationsreste(const RinexBeobachtung& daten, const Ort& ort, const Phasenzentrum& zentrum,
+                                      const Bahnen& bahnen);
+
+/// Phase residuals of a pair, second station minus first, with fixed integers. All of an epoch share the clocks and one
+/// unknown integer of each frequency.
+struct Paarrest {
+    int satellit = 0;
+    double l1 = 0, l2 = 0;  // metres
+};
+struct Paarepoche {
+    std::int64_t sekunde = 0;
+    std::vector<Paarrest> reste;  // by satellite
+};
+
+struct Paar {
+    std::size_t boegen = 0, fest = 0;
+    double bruch = 0;  // rms of the rounded parts, cycles of 10.7 cm
+    double zenit = 0;  // difference of the zenith delays in the middle, beyond the model; metres
+    std::vector<Paarepoche> epochen;
+
+    /// Enough arcs fixed, near enough to integers: a station whose place is wrong by a decimetre fails here.
+    bool brauchbar() const;
+};
+
+/// Solves a pair: wide lane from code and phase, then the narrow lane by least squares with a relative zenith delay and
+/// rounding one by one, the surest first.
+Paar paar_loesen(const std::vector<Restepoche>& erste, const std::vector<Restepoche>& zweite, double intervall);
+
+}  // namespace jorv::suite

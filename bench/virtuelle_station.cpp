@@ -1,12 +1,14 @@
 // What a virtual station is worth: rovers inside a simulated network whose truth is known, computed straight from the
 // nearest station, from that station moved to the rover, and from the network of two, three and four stations, under
 // a calm, a medium and a strong ionosphere. Prints one table row for each way.
+// With the variable JORV_EINZELN each solution and the runs that led to it.
 //   bench_virtuelle_station [count of seeds, 20] [minutes, 60] [first seed, 1]
 #include <algorithm>
 #include <array>
 #include <cstdio>
 
 #include "hilfen/Projekt.h"
+#include "plattform/text.h"
 #include "plattform/zahl.h"
 #include "simulator/beispiel.h"
 #include "simulator/szenario_text.h"
@@ -122,7 +124,11 @@ void rechnen(const hilfen::Arbeitsordner& temp, const simulator::Szenario& s, co
     (e->loesungstyp == "FixedL1" ? zeile.l1 : ist_fest ? zeile.l0 : zeile.offen) += 1;
     const bool falsch = ist_fest && (lage > FALSCH_LAGE || std::abs(hoehe) > FALSCH_HOEHE);
     zeile.falsch += falsch;
-    if (std::getenv("JORV_EINZELN") || falsch)
+    const bool einzeln = std::getenv("JORV_EINZELN") != nullptr;
+    Zeilenleser leser(protokoll.text());
+    while (const auto text = leser.naechste())
+        if (einzeln && text->starts_with("Lauf")) std::puts(std::string(*text).c_str());
+    if (einzeln || falsch)
         std::printf("# Saat %d %s %s: Lage %s Hoehe %s mm\n", static_cast<int>(s.saat), weg.name,
                     e->loesungstyp.c_str(), fest(lage, 1).c_str(), fest(hoehe, 1).c_str());
 }

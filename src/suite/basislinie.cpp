@@ -61,6 +61,7 @@ private:
     Protokoll& m_protokoll;
     Beobachtungsdatei m_basis, m_rover;
     double m_laenge = 0.0, m_hoehenunterschied = 0.0;  // of the real baseline
+    bool m_netz = false;                               // the base is a virtual station that a network has corrected
     Loeserauftrag m_auftrag;
     std::string m_basis_kalibrierung = "keine", m_rover_kalibrierung = "keine";
     bool m_version_geprueft = false;
@@ -95,11 +96,14 @@ bool Lauf::orte_pruefen()
     m_laenge = m_auftrag.solverlaenge;
     m_hoehenunterschied = geographisch(rover).hoehe - geographisch(basis).hoehe;
     if (const auto herkunft = herkunft_lesen(m_basis.daten.kopf.kommentar_virtuell)) {
-        // The errors of the atmosphere are those of the real distance, however near the virtual station stands.
-        m_laenge = std::max(m_laenge, herkunft->strecke);
+        // The errors of the atmosphere are those of the real distance, however near the virtual station stands; a
+        // network leaves no more of them than a short baseline has.
+        m_laenge = std::max(m_laenge, herkunft->netz ? std::min(herkunft->strecke, KURZ) : herkunft->strecke);
+        m_netz = herkunft->netz;
         m_hoehenunterschied += herkunft->hoehenunterschied;
-        m_protokoll.zeile(
-            verkettet("Virtuelle Station aus ", herkunft->station, ", ", fest(herkunft->strecke / 1000.0, 3), " km"));
+        m_protokoll.zeile(verkettet("Virtuelle Station aus ", herkunft->station, ", ",
+                                    fest(herkunft->strecke / 1000.0, 3), " km",
+                                    herkunft->netz ? ", im Netz verbessert" : ""));
     }
     m_protokoll.zeile(verkettet(u8"Länge der Basislinie  "_w, fest(m_laenge / 1000.0, 3), u8" km, Höhenunterschied "_w,
                                 fest(m_hoehenunterschied, 1), " m"));
@@ -248,7 +252,7 @@ void Lauf::laufzeile(Laufart art, const Loeserlauf& lauf, const Urteil& urteil)
 
 std::optional<Ergebnis> Lauf::fest_loesen(const Loeser& loeser, bool zwei_frequenzen)
 {
-    const std::vector<Versuch> versuche = plan(m_aufruf.art, m_laenge, zwei_frequenzen);
+    const std::vector<Versuch> versuche = plan(m_aufruf.art, m_laenge, zwei_frequenzen, m_netz);
     if (m_aufruf.art == Loesungsart::l1 && m_laenge > MITTEL)
         m_protokoll.warnung(verkettet(u8"L1 ist für "_w, fest(m_laenge / 1000.0, 1), " km zu lang."));
     for (const Versuch& versuch : versuche) {

@@ -30,14 +30,20 @@ Annahme annahme_l1(double laenge)
     return laenge <= KURZ ? Annahme{3.0, 0.25, 3.0} : Annahme{5.0, 0.50, 1.0};
 }
 
-std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen)
+std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, bool netz)
 {
     std::vector<Versuch> versuche;
+    const bool ruhig_zuerst = netz && zwei_frequenzen && art == Loesungsart::automatisch;
+    if (ruhig_zuerst) {
+        versuche.push_back({Laufart::l1, ANNAHME_NETZ, "FixedL1"});
+        versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0"});
+    }
     if (art == Loesungsart::l1 || (art == Loesungsart::automatisch && laenge <= MITTEL)) {
         versuche.push_back({Laufart::l1, annahme_l1(laenge), "FixedL1"});
         if (zwei_frequenzen) versuche.push_back({Laufart::l1_l2, annahme_l1(laenge), "FixedL1"});
     }
-    if (art != Loesungsart::l1 && zwei_frequenzen) versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0"});
+    if (art != Loesungsart::l1 && zwei_frequenzen && !ruhig_zuerst)
+        versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0"});
     return versuche;
 }
 

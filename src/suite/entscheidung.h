@@ -23,6 +23,7 @@ struct Annahme {
 /// Limits of an L1 (or L1+L2) run by the real length in metres, and of an L0 run.
 Annahme annahme_l1(double laenge);
 inline constexpr Annahme ANNAHME_L0{3.0, 0.10, 2.5};
+inline constexpr Annahme ANNAHME_NETZ{3.0, 0.25, 0.7};
 
 inline constexpr double KURZ = 15000.0, MITTEL = 30000.0;  // metres
 
@@ -32,8 +33,10 @@ struct Versuch {
     std::string_view typ;  // word of the result rows
 };
 
-/// The runs to try one after the other until one is accepted.
-std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen);
+/// The runs to try one after the other until one is accepted. From a station that a network has corrected L1 is taken
+/// at once only when its residuals show that the network has caught the ionosphere; else L0 has its turn before L1 may
+/// pass by the limits of a short baseline.
+std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, bool netz = false);
 
 /// The float runs to try when none was accepted; the last is a code solution.
 std::vector<Laufart> plan_offen(double laenge, bool zwei_frequenzen);

@@ -106,6 +106,8 @@ TEST(Entscheidung, plant_nach_art_laenge_und_frequenzen)
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 30000, true)), "L1 L1+L2 L0 ");
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 30001, true)), "L0 ");
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, false)), "L1 ");
+    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, true, true)), "L1 L0 L1 L1+L2 ");
+    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, false, true)), "L1 ");
     EXPECT_EQ(arten(plan(Loesungsart::l1, 50000, true)), "L1 L1+L2 ");
     EXPECT_EQ(arten(plan(Loesungsart::l0, 3000, true)), "L0 ");
     EXPECT_EQ(plan_offen(3000, true).front(), Laufart::offen);

@@ -157,13 +157,14 @@ TEST(Virtuelle_station, fuegt_stundendateien_einer_station_zusammen)
 
 TEST(Virtuelle_station, herkunft_steht_in_einer_zeile)
 {
-    for (const Herkunft& h : {Herkunft{"3040", 3335.4, -5.6}, Herkunft{"AB", 123456.7, 1234.5}}) {
+    for (const Herkunft& h : {Herkunft{"3040", 3335.4, -5.6}, Herkunft{"AB", 123456.7, 1234.5, true}}) {
         const std::string text = herkunft_text(h);
         EXPECT_LE(text.size(), 60u);
         const auto zurueck = herkunft_lesen(text);
         ASSERT_TRUE(zurueck);
         EXPECT_EQ(zurueck->strecke, h.strecke);
         EXPECT_EQ(zurueck->hoehenunterschied, h.hoehenunterschied);
+        EXPECT_EQ(zurueck->netz, h.netz);
     }
     EXPECT_FALSE(herkunft_lesen("VIRTUELLE STATION AUS"));
     EXPECT_FALSE(herkunft_lesen("irgendwas"));

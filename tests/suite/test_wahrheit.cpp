@@ -4,6 +4,7 @@
 #include "simulator/beispiel.h"
 #include "simulator/szenario_text.h"
 #include "suite/Pruefdaten.h"
+#include "suite/netz_interpolation.h"
 
 namespace jorv::suite {
 
@@ -86,6 +87,82 @@ TEST(Wahrheit, beispielnetz_auf_den_zentimeter)
         EXPECT_EQ(p.wort("marke"), punkt.name);
         SCOPED_TRACE(rover);
         expect_nahe(p.rover(), wahr(punkt), 15.0, 35.0);
+    }
+}
+
+// Under a strong ionosphere the network gives what one station can't, and a station that doesn't fit is told and left
+// out.
+TEST(Wahrheit, netz_fuehrt_durch_die_ionosphaere_und_weist_falsche_stationen_ab)
+{
+    NUR_MIT_LOESER();
+    simulator::Szenario s = beispiel();
+    s.wirkungen.ionosphaere = {30.0, -0.036, 0.018, 0.5, 200, 20, 150};
+    std::erase_if(s.punkte, [](const auto& p) {
+        return p.pkz != "5501" && p.pkz != "0590" && p.pkz != "0591" && p.pkz != "0593";
+    });
+    for (simulator::Punkt& p : s.punkte) {
+        p.von = 9 * 3600.0 - (p.pkz == "5501" ? 0 : 1800);
+        p.bis = 10 * 3600.0 + (p.pkz == "5501" ? 0 : 1800);
+        p.takt = 30;
+    }
+    const simulator::Punkt& rover = s.punkte.back();
+    const std::string datei = simulator::dateiname(s, rover, 'o');
+    struct Fall {
+        const char* name;
+        double daneben;         // metres by which the station 0591 is wrong
+        const char* abgelehnt;  // in the messages
+        bool netz;
+        double lage_mm;
+        std::string stationen = "0590,0591,0593";
+    };
+    for (const Fall& f :
+         {Fall{"gut", 0, "", true, 5}, Fall{"Ort", 0.17, "0591", true, 25}, Fall{"grober Ort", 25, "0591", true, 25},
+          Fall{"nur eine andere", 0.17, "0591", false, 60, "0590,0591"}}) {
+        SCOPED_TRACE(f.name);
+        simulator::Szenario falsch = s;
+        for (simulator::Punkt& p : falsch.punkte)
+            if (p.pkz == "0591") p.naeherung = {0, f.daneben, 0};
+        const Pruefordner p;
+        schreiben(p, falsch);
+        const Lauf lauf = p.wav2({datei, f.stationen, "+A001.ATX"});
+        ASSERT_EQ(lauf.status, 0) << lauf.ausgabe;
+        const bool warnt = lauf.meldet("WARNUNG: Die Station 0591 passt nicht");
+        EXPECT_EQ(warnt, *f.abgelehnt != '\0') << lauf.protokoll;
+        EXPECT_EQ(lauf.meldet("im Netz mit"), f.netz);
+        EXPECT_EQ(lauf.protokoll.find("nicht benutzt") == std::string::npos, f.netz);
+        ASSERT_EQ(p.wa2({"virt167.16o", datei, "+ACF001.ATX"}).status, 0);
+        EXPECT_TRUE(p.wort("typ").starts_with("Fixed"));
+        expect_nahe(p.rover(), wahr(rover), f.lage_mm, 60.0);
+    }
+}
+
+TEST(Wahrheit, ebene_gibt_an_den_stationen_deren_wert)
+{
+    const Ort master({3844000, 650000, 5030000});
+    const auto bei = [&](double e, double n) {
+        Xyz p = master.xyz;
+        const std::array<double, 2> um = {e, n};
+        for (std::size_t i = 0; i < 2; ++i)
+            p = p + Xyz{um[i] * master.horizont[i][0], um[i] * master.horizont[i][1], um[i] * master.horizont[i][2]};
+        return p;
+    };
+    struct Fall {
+        std::vector<std::array<double, 2>> stationen;
+        std::array<double, 2> ort;
+        std::vector<double> gewichte;
+    };
+    const std::vector<Fall> faelle = {
+        {{{30e3, 0}, {0, 20e3}}, {30e3, 0}, {1, 0}},
+        {{{30e3, 0}, {0, 20e3}}, {15e3, 10e3}, {0.5, 0.5}},
+        {{{30e3, 0}, {0, 20e3}}, {0, 0}, {0, 0}},
+        {{{40e3, 0}}, {10e3, 8e3}, {0.25}},
+    };
+    for (const Fall& f : faelle) {
+        std::vector<Xyz> orte;
+        for (const auto& s : f.stationen) orte.push_back(bei(s[0], s[1]));
+        const auto g = ebenengewichte(master, bei(f.ort[0], f.ort[1]), orte);
+        ASSERT_EQ(g.size(), f.gewichte.size());
+        for (std::size_t k = 0; k < g.size(); ++k) EXPECT_NEAR(g[k], f.gewichte[k], 1e-3);
     }
 }
 

@@ -267,7 +267,9 @@ std::optional<Ergebnis> Lauf::fest_loesen(const Loeser& loeser, bool zwei_freque
 
 std::optional<Ergebnis> Lauf::offen_loesen(const Loeser& loeser, bool zwei_frequenzen)
 {
-    for (const Laufart art : plan_offen(m_laenge, zwei_frequenzen)) {
+    // Where no integers hold from a network's station, it has not caught the ionosphere.
+    const double strecke = m_netz ? std::max(m_laenge, MITTEL) : m_laenge;
+    for (const Laufart art : plan_offen(strecke, zwei_frequenzen)) {
         if (m_haengt) break;
         const Loeserlauf lauf = laufen(loeser, art);
         const Urteil urteil = urteilen_offen(lauf.ausgabe, art);

@@ -15,8 +15,14 @@ constexpr double RAND = 1800.0;         // s by which the stations are read beyo
 constexpr double HOECHSTGEWICHT = 1.5;  // sum of the weights' amounts; beyond it the plane is drawn out too far
 
 struct Gelesen {
-    std::vector<Restepoche> reste;
-    double intervall = 0.0;
+    RinexBeobachtung daten;
+    Ort ort;
+    std::optional<Antennenblock> antenne;
+
+    std::vector<Restepoche> reste(const Bahnen& bahnen, bool kalibriert) const
+    {
+        return stationsreste(daten, ort, Phasenzentrum(daten.kopf, kalibriert ? antenne : std::nullopt), bahnen);
+    }
 };
 
 class Netzlauf {
@@ -46,13 +52,12 @@ private:
 std::optional<Gelesen> Netzlauf::lesen(const Netzstation& station)
 {
     const Zeitspanne weit{verschoben(m_auftrag.spanne.von, -RAND), verschoben(m_auftrag.spanne.bis, RAND)};
-    const auto datei = station_lesen(m_ordner, station.dateien, weit, m_protokoll);
+    auto datei = station_lesen(m_ordner, station.dateien, weit, m_protokoll);
     if (!datei) return {};
     const RinexKopf& kopf = datei->daten.kopf;
-    const auto block =
+    auto block =
         antenne_suchen(m_antex.text(), kopf.antennennummer, kopf.antennentyp, datei->daten.epochen.front().zeit);
-    const Ort ort(station.ort);
-    return Gelesen{stationsreste(datei->daten, ort, Phasenzentrum(kopf, block), m_bahnen), datei->daten.intervall()};
+    return Gelesen{std::move(datei->daten), Ort(station.ort), std::move(block)};
 }
 
 void Netzlauf::paar(const Netzstation& station, const Gelesen& master)
@@ -62,7 +67,15 @@ void Netzlauf::paar(const Netzstation& station, const Gelesen& master)
         m_protokoll.warnung(verkettet("Die Station ", station.name, " hat im Zeitraum nicht beobachtet."));
         return;
     }
-    Paar paar = paar_loesen(master.reste, gelesen->reste, std::max(master.intervall, gelesen->intervall));
+    // Without both calibrations only antennas of one type cancel; another one would look like a wrong height.
+    const bool kalibriert = master.antenne && gelesen->antenne;
+    if (!kalibriert && !gleich_ohne_gross(master.daten.kopf.antennentyp, gelesen->daten.kopf.antennentyp)) {
+        m_protokoll.warnung(verkettet("Die Antenne von ", m_auftrag.stationen.front().name, " oder ", station.name,
+                                      u8" ist nicht kalibriert: "_w, station.name, " ist nicht im Netz."));
+        return;
+    }
+    Paar paar = paar_loesen(master.reste(m_bahnen, kalibriert), gelesen->reste(m_bahnen, kalibriert),
+                            std::max(master.daten.intervall(), gelesen->daten.intervall()));
     const std::string wer = verkettet(m_auftrag.stationen.front().name, " - ", station.name);
     m_protokoll.zeile(verkettet(
         "  ", wer, ", ", fest(laenge(station.ort - m_auftrag.stationen.front().ort) / 1000.0, 1), " km: ", paar.fest,

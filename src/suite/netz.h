@@ -26,7 +26,7 @@ struct Netzauftrag {
     std::vector<Netzstation> stationen;  // by distance, the master first
     Xyz virtuell;
     Zeitspanne spanne;
-    std::string antennendatei;  // empty: antennas count as equal
+    std::string antennendatei;  // empty: no calibrations
 };
 
 struct Netz {

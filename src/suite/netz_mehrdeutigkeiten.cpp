@@ -75,10 +75,12 @@ public:
         const double modell = strecke - LICHT * lage.uhr + m_luft.laufzeit(hoehe);
         Rest r;
         r.satellit = m.satellit;
-        r.l1 = m[Art::L1] * LAMBDA1 - modell - m_zentrum.laenger(0, richtung);
-        r.l2 = m[Art::L2] * LAMBDA2 - modell - m_zentrum.laenger(1, richtung);
-        r.c1 = code - modell;
-        r.p2 = code2(m) - modell;
+        // The codes end at the antenna too: a metre of its height would be a wide lane.
+        const double eins = modell + m_zentrum.laenger(0, richtung), zwei = modell + m_zentrum.laenger(1, richtung);
+        r.l1 = m[Art::L1] * LAMBDA1 - eins;
+        r.l2 = m[Art::L2] * LAMBDA2 - zwei;
+        r.c1 = code - eins;
+        r.p2 = code2(m) - zwei;
         r.sinus = richtung.u;
         r.feucht = m_niell.bei(hoehe).feucht;
         return r;

@@ -1,5 +1,5 @@
 // Pictures of every window of the program, with a project open: for the manual, and to look at them.
-// jorv-bilder EINSTELLUNGSDATEI ORDNER [NUMMER]
+// jorv-bilder EINSTELLUNGSDATEI ORDNER [NUMMER [BREITE HOEHE]]
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
@@ -103,7 +103,7 @@ int main(int anzahl, char** werte)
     jorv::anwendung_einrichten();
     const QStringList worte = QApplication::arguments();
     if (worte.size() < 3 || !QDir().mkpath(worte[2])) {
-        std::fputs("jorv-bilder EINSTELLUNGSDATEI ORDNER [NUMMER]\n", stderr);
+        std::fputs("jorv-bilder EINSTELLUNGSDATEI ORDNER [NUMMER [BREITE HOEHE]]\n", stderr);
         return 2;
     }
     jorv::Fensterschirm schirm;
@@ -112,6 +112,12 @@ int main(int anzahl, char** werte)
     const auto einstellungen = g.dateien.laufwerke().dos(worte[1].toStdString());
     if (!einstellungen || ist_fehler(jorv::start(g, {*einstellungen, {}}))) return 1;
     g.Hinweis1.assign(1, '0');
+    if (worte.size() > 5) {
+        g.Form_zustand.assign(1, '0');
+        g.Form_left = g.Form_top = 0;
+        g.Form_width = worte[4].toInt();
+        g.Form_height = worte[5].toInt();
+    }
     frmHauptform form(g, schirm);
     Fotograf fotograf(form, QDir(worte[2]));
     form.show();

@@ -7,7 +7,7 @@ kopf="$2/windows_kopf"
 mkdir -p "$kopf"
 for bibliothek in GeographicLib nlohmann; do ln -sfn "/usr/include/$bibliothek" "$kopf/$bibliothek"; done
 schlecht=0
-for datei in src/{plattform,modell,geo,planung,projekt,daten,auswertung,app,konsole,suite}/*.cpp; do
+for datei in src/{plattform,modell,geo,karte,planung,projekt,daten,auswertung,app,konsole,suite}/*.cpp; do
   case $datei in *_linux.cpp | *'*.cpp') continue ;; esac
   "$kompilierer" -std=c++20 -fsyntax-only -Wall -Wextra -Isrc -isystem "$kopf" "$datei" || { echo "does not compile: $datei"; schlecht=1; }
 done

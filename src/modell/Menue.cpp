@@ -185,6 +185,7 @@ std::vector<Gruppe> menueleiste(const Global& g)
             {"G&rafik",
              {{"m_grafik_orginal", text(u8"&Orginalgröße"_w)},
               {"m_grafik_verkleinern", text(u8"&Verkleinerung um ½"_w), verkleinern},
+              {"m_grafik_vergroessern", text(u8"V&ergrößern"_w)},
               {"m_grafik_grenzen", "&Grenzen einblenden", immer, immer, haken_grenzen},
               {"m_grafik_ablage", "in &Zwischenablage kopieren"},
               {"m_grafik_pkz", "&PKZ einblenden", immer, immer, haken_pkz},

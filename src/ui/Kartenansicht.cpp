@@ -22,7 +22,7 @@ Bildort ort(const QPointF& punkt)
 
 }  // namespace
 
-Kartenansicht::Kartenansicht(Global& g, QWidget* eltern) : QWidget(eltern), m_karte(g)
+Kartenansicht::Kartenansicht(Global& g, QWidget* eltern) : QWidget(eltern), m_g(g), m_karte(g)
 {
     setObjectName(QStringLiteral("pic_grafik"));
     setAccessibleName(QStringLiteral("Netzkarte"));
@@ -30,6 +30,12 @@ Kartenansicht::Kartenansicht(Global& g, QWidget* eltern) : QWidget(eltern), m_ka
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(240, 180);
+}
+
+void Kartenansicht::vergroessern()
+{
+    m_karte.zoomen({width() / 2.0, height() / 2.0}, tastenschritt);
+    erneuern();
 }
 
 void Kartenansicht::grafik_zeichnen(bool neu)
@@ -183,6 +189,14 @@ void Kartenansicht::keyPressEvent(QKeyEvent* ereignis)
         case Qt::Key_Down:
             m_karte.verschieben(0, -schiebeschritt);
             break;
+        case Qt::Key_PageDown:
+            return station_waehlen(1);
+        case Qt::Key_PageUp:
+            return station_waehlen(-1);
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            station_klicken();
+            break;
         case Qt::Key_Home:
             m_karte.alles_zeigen();
             break;
@@ -190,6 +204,28 @@ void Kartenansicht::keyPressEvent(QKeyEvent* ereignis)
             return QWidget::keyPressEvent(ereignis);
     }
     erneuern();
+}
+
+// Figures can be drawn without a mouse: the keys go from station to station, Enter clicks.
+void Kartenansicht::station_waehlen(int schritt)
+{
+    const int alle = m_g.S_Punkt.anzahl();
+    if (alle == 0) return;
+    m_station =
+        m_station < 1 || m_station > alle ? (schritt > 0 ? 1 : alle) : (m_station - 1 + schritt + alle) % alle + 1;
+    const auto& punkt = m_g.S_Punkt[m_station];
+    m_karte.bewegen(m_karte.ansicht().bild({punkt.Rechtswert, punkt.Hochwert}));
+    if (bei_zeiger) bei_zeiger(m_karte.zeigertext());
+    zeigen(false);
+}
+
+void Kartenansicht::station_klicken()
+{
+    if (m_station < 1 || m_station > m_g.S_Punkt.anzahl()) return;
+    const auto& punkt = m_g.S_Punkt[m_station];
+    const Bildort stelle = m_karte.ansicht().bild({punkt.Rechtswert, punkt.Hochwert});
+    m_karte.links_druecken(stelle);
+    m_karte.links_loslassen(stelle);
 }
 
 void Kartenansicht::keyReleaseEvent(QKeyEvent* ereignis)

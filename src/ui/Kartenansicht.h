@@ -16,6 +16,8 @@ public:
     Karte& karte() { return m_karte; }
     /// The port's wish: `neu` with a new scale.
     void grafik_zeichnen(bool neu);
+    /// Enlarges about the middle.
+    void vergroessern();
     /// Paints anew what the map shows.
     void erneuern();
     /// The picture alone, for clipboard and files, at that many pixels to a logical unit.
@@ -43,9 +45,13 @@ protected:
 
 private:
     void zeigen(bool neu);
+    void station_waehlen(int schritt);
+    void station_klicken();
     void hinweis_malen(QPainter& maler) const;
 
+    Global& m_g;
     Karte m_karte;
+    int m_station = 0;       // project station that the keyboard has gone to
     QPixmap m_bild, m_logo;  // the kept picture; null when it has to be painted
     QString m_hinweis;
     bool m_leertaste = false, m_schieben = false;

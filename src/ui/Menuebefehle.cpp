@@ -89,6 +89,7 @@ constexpr std::array befehle = {
     Befehl{"m_grund_zeitfenster_1h", kern<m_grund_zeitfenster_1h>},
     Befehl{"m_grafik_orginal", karte<&Karte::m_grafik_orginal>},
     Befehl{"m_grafik_verkleinern", karte<&Karte::m_grafik_verkleinern>},
+    Befehl{"m_grafik_vergroessern", [](Hauptfenster& form) { form.karte().vergroessern(); }},
     Befehl{"m_grafik_alles", karte<&Karte::alles_zeigen>},
     Befehl{"m_grafik_pkz", karte<&Karte::m_grafik_pkz>},
     Befehl{"m_grafik_grenzen", kern<m_grafik_grenzen>},

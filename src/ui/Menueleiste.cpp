@@ -15,17 +15,27 @@ struct Tastenkuerzel {
     const char* name;
     const char* taste;
 };
-constexpr std::array tastenkuerzel = {
-    Tastenkuerzel{"m_datei_neu", "Ctrl+N"},           Tastenkuerzel{"m_datei_laden", "Ctrl+O"},
-    Tastenkuerzel{"m_datei_sichern", "Ctrl+S"},       Tastenkuerzel{"m_datei_importieren", "Ctrl+I"},
-    Tastenkuerzel{"m_datei_rinex", "Ctrl+R"},         Tastenkuerzel{"m_datei_antenne", "Ctrl+Shift+A"},
-    Tastenkuerzel{"m_datei_ende", "Ctrl+Q"},          Tastenkuerzel{"m_grund_EinstellungenAlle", "Ctrl+Shift+E"},
-    Tastenkuerzel{"m_grafik_orginal", "Ctrl+0"},      Tastenkuerzel{"m_grafik_verkleinern", "Ctrl+-"},
-    Tastenkuerzel{"m_grafik_ablage", "Ctrl+Shift+C"}, Tastenkuerzel{"m_grafik_grenzen", "Ctrl+G"},
-    Tastenkuerzel{"m_grafik_pkz", "Ctrl+K"},          Tastenkuerzel{"m_grafik_zeiten", "Ctrl+T"},
-    Tastenkuerzel{"m_grafik_alles", "Ctrl+9"},        Tastenkuerzel{"m_wasoft_run_n", "F5"},
-    Tastenkuerzel{"m_protkoll_einsehen", "F6"},       Tastenkuerzel{"m_protkoll_kurz", "F7"},
-    Tastenkuerzel{"m_protkoll_kurz_aller", "F8"},     Tastenkuerzel{"m_hilfe_handbuch", "F1"}};
+constexpr std::array tastenkuerzel = {Tastenkuerzel{"m_datei_neu", "Ctrl+N"},
+                                      Tastenkuerzel{"m_datei_laden", "Ctrl+O"},
+                                      Tastenkuerzel{"m_datei_sichern", "Ctrl+S"},
+                                      Tastenkuerzel{"m_datei_importieren", "Ctrl+I"},
+                                      Tastenkuerzel{"m_datei_rinex", "Ctrl+R"},
+                                      Tastenkuerzel{"m_datei_antenne", "Ctrl+Shift+A"},
+                                      Tastenkuerzel{"m_datei_ende", "Ctrl+Q"},
+                                      Tastenkuerzel{"m_grund_EinstellungenAlle", "Ctrl+Shift+E"},
+                                      Tastenkuerzel{"m_grafik_orginal", "Ctrl+0"},
+                                      Tastenkuerzel{"m_grafik_verkleinern", "Ctrl+-"},
+                                      Tastenkuerzel{"m_grafik_vergroessern", "Ctrl++"},
+                                      Tastenkuerzel{"m_grafik_ablage", "Ctrl+Shift+C"},
+                                      Tastenkuerzel{"m_grafik_grenzen", "Ctrl+G"},
+                                      Tastenkuerzel{"m_grafik_pkz", "Ctrl+K"},
+                                      Tastenkuerzel{"m_grafik_zeiten", "Ctrl+T"},
+                                      Tastenkuerzel{"m_grafik_alles", "Ctrl+9"},
+                                      Tastenkuerzel{"m_wasoft_run_n", "F5"},
+                                      Tastenkuerzel{"m_protkoll_einsehen", "F6"},
+                                      Tastenkuerzel{"m_protkoll_kurz", "F7"},
+                                      Tastenkuerzel{"m_protkoll_kurz_aller", "F8"},
+                                      Tastenkuerzel{"m_hilfe_handbuch", "F1"}};
 
 // Entries that a line sets off from those above them.
 constexpr std::array trenner = {

@@ -30,7 +30,7 @@ std::string kontext(const Global& g, const std::string& knoten, const std::strin
 
 constexpr std::string_view immer_vorn = "datei_neu datei_laden ", ende = "datei_ende ", editor = "grund_editor ",
                            grafik =
-                               "grafik_orginal grafik_grenzen "
+                               "grafik_orginal grafik_vergroessern grafik_grenzen "
                                "grafik_ablage grafik_pkz grafik_alles grafik_speichern grafik_leiste ",
                            immer_hinten = "protkoll_editieren hilfe_handbuch hilfe_neuerungen ";
 

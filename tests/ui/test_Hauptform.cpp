@@ -351,7 +351,14 @@ TEST(Hauptform, DerGanzeWegInModusS)
     p.dateien_aufnehmen("m_datei_rinex", p.auswahl({"5501", "5504", "0590", "0591", "0593"}));
     p.dateien_aufnehmen("m_datei_antenne", "beispiel/antennen");
     p.befehl("m_grafik_orginal");
-    p.figur_klicken({"0590", "0591", "0593"});
+    // The first corner by the keyboard: from station to station, Enter clicks.
+    auto& karte = p.form.karte();
+    QTest::keyClick(&karte, Qt::Key_PageUp);
+    QTest::keyClick(&karte, Qt::Key_PageDown);
+    QTest::keyClick(&karte, Qt::Key_Return);
+    for (const char* pkz : {"0591", "0593", "0590"}) p.station_klicken(pkz);
+    EXPECT_EQ(p.g.GEO_Punkt.anzahl(), 1);
+    EXPECT_TRUE(p.g.geo_fertig);
     p.befehl("m_wasoft_run_n");
     EXPECT_EQ(knotentexte(p.g, "E_Datei").size(), 2u);
 }

@@ -15,10 +15,13 @@
 #include "ui/Anwendung.h"
 #include "ui/Baumansicht.h"
 #include "ui/Fensterschirm.h"
+#include "ui/Fortschrittsfeld.h"
 #include "ui/Kartenansicht.h"
 #include "ui/frmBasisDialog.h"
 #include "ui/frmHauptform.h"
 #include "ui/frmImport.h"
+#include "ui/frmLogo.h"
+#include "ui/frmVerzeichnis.h"
 
 namespace {
 
@@ -130,6 +133,10 @@ int main(int anzahl, char** werte)
     if (!g.Verfahren_offen()) return 1;
     form.menue_erneuern();
     fotograf.foto(form, QStringLiteral("hauptform"));
+    form.fortschritt().zeigen(QStringLiteral("Auswertung (2/6) - bitte warten"));
+    form.fortschritt().setzen(16.7);
+    fotograf.foto(form, QStringLiteral("fortschritt"));
+    form.fortschritt().verbergen();
     fotograf.menues();
     fotograf.befehle({"m_datei_neu", "m_datei_laden", "m_datei_rinex", "m_datei_antenne", "m_datei_importieren",
                       "m_datei_loeschen", "m_grund_EinstellungenAlle", "m_grafik_zeiten", "m_protkoll_kurz",
@@ -140,6 +147,9 @@ int main(int anzahl, char** werte)
         });
     fotograf.fotos(QStringLiteral("frmImport"),
                    [&] { jorv::frmImport(g, jorv::import_laden(g, g.Verfahrensdatei), &form).exec(); });
+    fotograf.fotos(QStringLiteral("frmVerzeichnis"),
+                   [&] { jorv::frmVerzeichnis(g, g.Arbeitsverzeichnis, &form).exec(); });
+    fotograf.fotos(QStringLiteral("frmLogo"), [&] { jorv::frmLogo(g).exec(); });
     fotograf.fotos(QStringLiteral("frmBasisDialog"), [&] { jorv::frmBasisDialog(g, &form).exec(); });
     for (const auto& gruppe : g.baum.Knoten) {
         if (gruppe.Kinder.empty()) continue;

@@ -102,7 +102,7 @@ std::optional<Netz> Netzlauf::rechnen()
     m_protokoll.zeile("Netz, Festsetzung zwischen den Stationen");
     for (std::size_t i = 1; i < std::min(stationen.size(), NETZSTATIONEN); ++i) paar(stationen[i], *master);
     if (m_hilfen.empty()) {
-        ablehnen(u8"keine zweite Station läßt sich festsetzen"_w);
+        ablehnen(u8"keine zweite Station lässt sich festsetzen"_w);
         return {};
     }
     std::vector<Xyz> orte;

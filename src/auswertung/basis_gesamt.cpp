@@ -47,13 +47,7 @@ std::string basislinien_batch(const Global& g)
         basislinien_namen(batch, {g.BASISLINIE[i].Datei_von, g.BASISLINIE[i].Datei_nach});
         batch.zeilen(basislinien_zeilen);
     }
-    batch.zeile("goto :kopieren");
-    batch.zeilen(block_fehlerliste);
-    batch.zeilen(block_fehler_mit_pause);
-    batch.zeilen(block_kopieren);
-    batch.zeilen(kopieren);
-    batch.zeilen(block_ende);
-    batch.zeile(":ende");
+    gesamtbatch_schluss(batch, kopieren);
     return batch.text();
 }
 

@@ -28,4 +28,15 @@ void batchkopf(const Global& g, Batchtext& batch, std::string_view titel, std::s
     batch.fertige_zeile(batch_cd(g.Arbeitsverzeichnis));
 }
 
+void gesamtbatch_schluss(Batchtext& batch, std::span<const Batchzeile> kopieren)
+{
+    batch.zeile("goto :kopieren");
+    batch.zeilen(block_fehlerliste);
+    batch.zeilen(block_fehler_mit_pause);
+    batch.zeilen(block_kopieren);
+    batch.zeilen(kopieren);
+    batch.zeilen(block_ende);
+    batch.zeile(":ende");
+}
+
 }  // namespace jorv

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string_view>
 
 #include "auswertung/batchtext.h"
@@ -34,5 +35,9 @@ inline constexpr std::string_view echo_ohne_virtuelle_station =
 /// What the whole-project batches do then; they wait, so that the user sees it.
 inline constexpr std::array<Batchzeile, 4> block_fehler_mit_pause = {
     {{":fehler1"}, {echo_ohne_virtuelle_station}, {"pause"}, {"goto :ende"}}};
+
+/// The tail of the whole-project batches: the errors' block, then the lines that file the results, which begin with the
+/// label ":kopieren".
+void gesamtbatch_schluss(Batchtext& batch, std::span<const Batchzeile> kopieren);
 
 }  // namespace jorv

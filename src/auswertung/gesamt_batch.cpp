@@ -82,13 +82,7 @@ std::string gesamt_batch(const Global& g)
     batchkopf(g, batch, titel_rover);
     batch.zeilen(vorbereitung);
     for (int i = 1; i <= g.ROVER_TOREL.anzahl(); ++i) rover(g, batch, i);
-    batch.zeile("goto :kopieren");
-    batch.zeilen(block_fehlerliste);
-    batch.zeilen(block_fehler_mit_pause);
-    batch.zeilen(block_kopieren);
-    batch.zeilen(kopieren);
-    batch.zeilen(block_ende);
-    batch.zeile(":ende");
+    gesamtbatch_schluss(batch, kopieren);
     return batch.text();
 }
 

@@ -1,4 +1,5 @@
 #include <array>
+#include <nlohmann/json.hpp>
 
 #include "auswertung/basis_esa.h"
 #include "auswertung/basis_i95.h"
@@ -8,6 +9,9 @@
 #include "konsole/Befehle.h"
 #include "konsole/Lage.h"
 #include "konsole/batchdateien.h"
+#include "modell/Meldungen.h"
+#include "plattform/wort.h"
+#include "plattform/zahl.h"
 
 namespace jorv {
 
@@ -30,10 +34,48 @@ Ausgang rv(Lage& lage)
     return als_ausgang(m_basis_lovena(lage.g));
 }
 
+// The hours that the suite's program leaves beside the model.
+std::string stundenindex(const Global& g)
+{
+    return im_Verfahren(g, "model.i95");
+}
+
+// Day, hour, index, epochs, satellites and bar of each line behind the head.
+std::string stunden_json(std::string_view text)
+{
+    auto stunden = nlohmann::ordered_json::array();
+    Zeilenleser leser(text);
+    while (const auto zeile = leser.naechste()) {
+        const auto wort = [&](int nummer) { return std::string(wort_finden(*zeile, nummer).text); };
+        if (zeile->empty() || zeile->front() < '0' || zeile->front() > '9') continue;
+        stunden.push_back({{"Tag", wort(1)},
+                           {"Stunde", wort(2)},
+                           {"I95", zahl_lesen(wort(3))},
+                           {"Epochen", zahl_lesen(wort(4))},
+                           {"Satelliten", zahl_lesen(wort(5))}});
+    }
+    return nlohmann::ordered_json{{"Stunden", stunden}}.dump(2) + "\n";
+}
+
+Ausgang i95_bild(Lage& lage)
+{
+    lage.schirm.fenster_abwarten();
+    const auto stunden = lage.g.dateien.lesen(stundenindex(lage.g));
+    if (!stunden)
+        return lage.stop(
+            verkettet(u8"Der Index der Ionosphäre wurde nicht berechnet (siehe "_w, lage.g.Verfahrensnummer, ".LIS)!"));
+    lage.aus << (lage.aufruf.json ? stunden_json(*stunden) : utf8_aus_1252(ersetzt(*stunden, "\r\n", "\n")));
+    return Ausgang::gut;
+}
+
 Ausgang i95(Lage& lage)
 {
     if (!ist_B(lage.g)) return lage.nicht_in_diesem_modus();
+    // Never the hours of an earlier run.
+    if (const auto alt = stundenindex(lage.g); lage.g.dateien.vorhanden(alt) && lage.g.dateien.loeschen(alt))
+        return lage.stop(datei_meldung("Die Datei:", alt, u8"konnte nicht gelöscht werden!"_w));
     if (ist_fehler(m_basis_i95(lage.g))) return Ausgang::misslungen;
+    if (lage.aufruf.option.contains("--bild")) return i95_bild(lage);
     dateien_nennen(lage);
     return Ausgang::gut;
 }
@@ -62,6 +104,7 @@ Ausgang ausgeben(Lage& lage)
     return als_ausgang(export_schreiben(lage.g, *format, *pfad));
 }
 
+constexpr std::array<std::string_view, 1> optionen_i95 = {"--bild"};
 constexpr std::array<std::string_view, 2> optionen_export = {"--format=", "--nach="};
 
 constexpr Befehl befehle[] = {
@@ -85,17 +128,11 @@ constexpr Befehl befehle[] = {
      {},
      Grundlage::verfahren,
      rv},
-    {"i95",
-     "NR",
+    {"i95", "NR [--bild]",
      "schreibt und startet die Batchdatei für den Index der Ionosphäre am Punkt 0583 (Modus B)\n"
-     "Die Ausgabe der Batchdatei steht auf der Fehlerausgabe. Die eingebaute Suite kann die Modelldatei noch nicht\n"
-     "berechnen und sagt das im Protokoll NR.LIS.",
-     "jorv i95 1",
-     1,
-     1,
-     {},
-     Grundlage::verfahren,
-     i95},
+     "Die Ausgabe der Batchdatei, auch der Index jeder Stunde in ppm, steht auf der Fehlerausgabe. Mit --bild kommen\n"
+     "die Stunden mit ihren Balken aus der Datei model.i95 auf die Ausgabe.",
+     "jorv i95 1 --bild", 1, 1, optionen_i95, Grundlage::verfahren, i95},
     {"mitteln",
      "NR",
      "sammelt die Ergebnisse aller berechneten ROVER in NR.UTM und startet damit die Koordinatenmittelung RUNA\n"

@@ -107,7 +107,10 @@ bool virtuelle_namen(Wav2Aufruf& ziel, std::string_view rest)
     return true;
 }
 
-constexpr std::array<Option<Wav2Aufruf>, 6> WASOFT_VIRTUELL = {{
+constexpr std::string_view MODELLDATEI = "model.wam";
+
+constexpr std::array<Option<Wav2Aufruf>, 7> WASOFT_VIRTUELL = {{
+    {"+k", [](Wav2Aufruf& z, std::string_view r) { return z.modelldatei = MODELLDATEI, r.empty(); }},
     {"+V", virtuelle_namen},
     {"+A", [](Wav2Aufruf& z, std::string_view r) { return dateiname(z.antennendatei, r); }},
     {"+C", [](Wav2Aufruf& z, std::string_view r) { return dateiname(z.koordinatendatei, r); }},
@@ -216,11 +219,7 @@ std::optional<WasoftAufruf> wasoft_aufruf(const Worte& worte, std::string& grund
     if (worte.size() < 3) {
         grund =
             "wasoft TAGSITZUNG STATION,STATION,... +V<Name>,<Rover> +A<Antennendatei> +C<Koordinatendatei> +b<HHMMSS> "
-            "+e<HHMMSS>, wasoft BASIS ROVER +A<Antennendatei> +C<Koordinatendatei> -0 +R<s> -e<Grad>";
-        return {};
-    }
-    if (std::find(worte.begin(), worte.end(), "+k") != worte.end()) {
-        grund = "die Modelldatei (+k) kann noch nicht berechnet werden";
+            "+e<HHMMSS> +k, wasoft BASIS ROVER +A<Antennendatei> +C<Koordinatendatei> -0 +R<s> -e<Grad>";
         return {};
     }
     const std::span rest = std::span(worte).subspan(2);

@@ -21,6 +21,7 @@ struct Wav2Aufruf {
     std::string koordinatendatei;  // empty: the places of the headers
     std::string virt;              // name of the files to make, without their type
     std::string protokoll_datei = "wav2log.txt";
+    std::string modelldatei;  // of the network, empty: none
     int elevation = 10;                                      // degrees
     std::optional<int> beginn, ende;                         // time of day as HHMMSS
     Troposphaerenmodell modell = Troposphaerenmodell::voll;  // no option of the command line
@@ -49,7 +50,7 @@ struct Wa2Aufruf {
 };
 
 /// The older program wasoft has two kinds of call: the virtual station for a rover, and a baseline.
-///   wasoft <DDDS> STA1,STA2,... +V<name>,<rover> [+A<file>] [+C<file>] [-e<degrees>] [+b<HHMMSS>] [+e<HHMMSS>]
+///   wasoft <DDDS> STA1,STA2,... +V<name>,<rover> [+A<file>] [+C<file>] [-e<degrees>] [+b<HHMMSS>] [+e<HHMMSS>] [+k]
 ///   wasoft BASE ROVER [+A<file>] [+C<file>] [-0] [+R<s>] [-e<degrees>]
 using WasoftAufruf = std::variant<Wav2Aufruf, Wa2Aufruf>;
 

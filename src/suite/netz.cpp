@@ -34,7 +34,7 @@ public:
         std::error_code fehler;
         m_antex = ordner.lesen(auftrag.antennendatei, fehler);
     }
-    std::optional<Netz> rechnen();
+    Netz rechnen();
 
 private:
     std::optional<Gelesen> lesen(const Netzstation& station);
@@ -46,7 +46,7 @@ private:
     const Arbeitsordner& m_ordner;
     Protokoll& m_protokoll;
     Abbild m_antex;
-    std::vector<Hilfsstation> m_hilfen;
+    Netz m_netz;
 };
 
 std::optional<Gelesen> Netzlauf::lesen(const Netzstation& station)
@@ -87,10 +87,10 @@ void Netzlauf::paar(const Netzstation& station, const Gelesen& master)
                                       u8" (Koordinaten, Antenne oder Daten prüfen): nicht im Netz."_w));
         return;
     }
-    m_hilfen.push_back({station.name, station.ort, std::move(paar)});
+    m_netz.stationen.push_back({station.name, station.ort, std::move(paar)});
 }
 
-std::optional<Netz> Netzlauf::rechnen()
+Netz Netzlauf::rechnen()
 {
     const auto& stationen = m_auftrag.stationen;
     if (stationen.size() < 2) {
@@ -101,32 +101,29 @@ std::optional<Netz> Netzlauf::rechnen()
     if (!master) return {};
     m_protokoll.zeile("Netz, Festsetzung zwischen den Stationen");
     for (std::size_t i = 1; i < std::min(stationen.size(), NETZSTATIONEN); ++i) paar(stationen[i], *master);
-    if (m_hilfen.empty()) {
+    const auto& hilfen = m_netz.stationen;
+    if (hilfen.empty()) {
         ablehnen(u8"keine zweite Station lässt sich festsetzen"_w);
         return {};
     }
     std::vector<Xyz> orte;
-    for (const Hilfsstation& h : m_hilfen) orte.push_back(h.ort);
+    for (const Hilfsstation& h : hilfen) orte.push_back(h.ort);
     const auto gewichte = ebenengewichte(Ort(stationen.front().ort), m_auftrag.virtuell, orte);
     double summe = 0.0;
-    Netz netz;
     for (std::size_t k = 0; k < gewichte.size(); ++k) {
         summe += std::abs(gewichte[k]);
-        m_protokoll.zeile(verkettet("  Gewicht ", m_hilfen[k].name, " ", fest(gewichte[k], 3)));
-        netz.stationen.push_back(m_hilfen[k].name);
+        m_protokoll.zeile(verkettet("  Gewicht ", hilfen[k].name, " ", fest(gewichte[k], 3)));
     }
-    if (summe > HOECHSTGEWICHT) {
+    if (summe > HOECHSTGEWICHT)
         ablehnen(u8"der Rover liegt zu weit außerhalb"_w);
-        return {};
-    }
-    netz.korrekturen = korrekturen(m_hilfen, gewichte);
-    return netz;
+    else
+        m_netz.korrekturen = korrekturen(hilfen, gewichte);
+    return std::move(m_netz);
 }
 
 }  // namespace
 
-std::optional<Netz> netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner,
-                                 Protokoll& protokoll)
+Netz netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner, Protokoll& protokoll)
 {
     return Netzlauf(auftrag, bahnen, ordner, protokoll).rechnen();
 }

@@ -2,7 +2,6 @@
 // The network round a virtual station: reads the stations beside the master, fixes each of them to it, and makes the
 // corrections for the rover's place. Its lines in the protocol tell what was used and what was refused.
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,13 +29,13 @@ struct Netzauftrag {
 };
 
 struct Netz {
-    std::vector<std::string> stationen;  // that took part beside the master
+    std::vector<Hilfsstation> stationen;  // that are fixed to the master
     std::vector<Korrekturepoche> korrekturen;
 };
 
-/// The corrections of the network; nothing, with the reason in the protocol, when no station beside the master can be
-/// used or the rover lies too far outside.
-std::optional<Netz> netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner,
+/// The stations and the corrections of the network. No corrections, with the reason in the protocol, when no station
+/// beside the master can be used or the rover lies too far outside.
+Netz netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner,
                                  Protokoll& protokoll);
 
 }  // namespace jorv::suite

@@ -10,13 +10,6 @@ namespace {
 constexpr double AUF_LINIE = 0.02;  // smaller to larger moment of the stations' places
 constexpr double NAH = 100.0;       // metres; a distance below it weighs no more
 
-const Paarrest* rest_von(const Paarepoche& epoche, int satellit)
-{
-    const auto r = std::lower_bound(epoche.reste.begin(), epoche.reste.end(), satellit,
-                                    [](const Paarrest& a, int b) { return a.satellit < b; });
-    return r == epoche.reste.end() || r->satellit != satellit ? nullptr : &*r;
-}
-
 // The weighted sums of the residuals of the satellites that all stations have.
 Korrekturepoche summen(const std::vector<const Paarepoche*>& epochen, const std::vector<double>& gewichte)
 {
@@ -62,6 +55,13 @@ void anschliessen(Korrekturepoche& neu, const Korrekturepoche& alt)
 }
 
 }  // namespace
+
+const Paarrest* rest_von(const Paarepoche& epoche, int satellit)
+{
+    const auto r = std::lower_bound(epoche.reste.begin(), epoche.reste.end(), satellit,
+                                    [](const Paarrest& a, int b) { return a.satellit < b; });
+    return r == epoche.reste.end() || r->satellit != satellit ? nullptr : &*r;
+}
 
 std::vector<double> ebenengewichte(const Ort& master, const Xyz& virtuell, const std::vector<Xyz>& stationen)
 {

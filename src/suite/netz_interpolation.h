@@ -35,6 +35,9 @@ struct Hilfsstation {
     Paar paar;
 };
 
+/// The residual of a satellite in an epoch; nullptr without one.
+const Paarrest* rest_von(const Paarepoche& epoche, int satellit);
+
 /// What each station's residual counts at `virtuell`: a plane through the master, nearer stations weighing more; along
 /// the stations' common line when they stand on one.
 std::vector<double> ebenengewichte(const Ort& master, const Xyz& virtuell, const std::vector<Xyz>& stationen);

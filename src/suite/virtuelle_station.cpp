@@ -6,6 +6,7 @@
 #include "plattform/zahl.h"
 #include "suite/koordinaten.h"
 #include "suite/netz.h"
+#include "suite/netz_modell.h"
 #include "suite/rinex_schreiben.h"
 #include "suite/spalten.h"
 #include "suite/stationen.h"
@@ -96,6 +97,7 @@ public:
 private:
     bool rover_lesen();
     std::vector<Netzstation> kandidaten();
+    void modell_ablegen(const Netz& netz);
     void netz_benutzen(const RinexBeobachtung& daten);
     std::optional<Beobachtungsdatei> master_lesen();
     bool navigation_bereitstellen();
@@ -235,11 +237,32 @@ void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
     std::erase_if(daten.epochen, [](const Epoche& e) { return e.anzahl == 0; });
 }
 
+// The model doesn't ask where the rover lies, so it may exist without corrections.
+void Lauf::modell_ablegen(const Netz& netz)
+{
+    const auto zeilen = netzmodell(Ort(m_master.ort), netz.stationen, m_bahnen, m_spanne);
+    if (zeilen.empty()) {
+        m_protokoll.warnung(verkettet("Die Modelldatei ", m_aufruf.modelldatei,
+                                      u8" braucht drei Stationen, die zueinander passen und nicht auf einer Linie "
+                                      u8"liegen."_w));
+        return;
+    }
+    std::string kopf = verkettet("Netz ", m_master.name);
+    for (const Hilfsstation& h : netz.stationen) kopf.append(" ").append(h.name);
+    if (m_ordner.schreiben(m_aufruf.modelldatei, modelltext(kopf, zeilen)))
+        m_protokoll.zeile(verkettet("Modelldatei ", m_aufruf.modelldatei, ", ", zeilen.size(), " Zeilen"));
+    else
+        m_protokoll.fehler(verkettet("Die Datei ", m_aufruf.modelldatei, " konnte nicht geschrieben werden!"));
+}
+
 // Whether the network's corrections reach far enough for this master; else the station stays a shifted one.
 void Lauf::netz_benutzen(const RinexBeobachtung& daten)
 {
-    m_netz = netz_rechnen({m_stationen, m_virtuell, m_spanne, m_aufruf.antennendatei}, m_bahnen, m_ordner, m_protokoll);
-    if (!m_netz) return;
+    Netz netz =
+        netz_rechnen({m_stationen, m_virtuell, m_spanne, m_aufruf.antennendatei}, m_bahnen, m_ordner, m_protokoll);
+    if (!m_aufruf.modelldatei.empty()) modell_ablegen(netz);
+    if (netz.korrekturen.empty()) return;
+    m_netz = std::move(netz);
     RinexBeobachtung versuch = daten;
     uebertragen(versuch, Ort(m_master.ort), Ort(m_virtuell));
     const auto verloren = static_cast<double>(m_statistik.ohne_netz);
@@ -284,7 +307,7 @@ void Lauf::berichten(const RinexBeobachtung& daten)
                                                                           : u8"vereinfachter Troposphäre"_w));
     if (m_netz) {
         std::string namen;
-        for (const std::string& name : m_netz->stationen) namen += verkettet(" ", name);
+        for (const Hilfsstation& h : m_netz->stationen) namen += verkettet(" ", h.name);
         m_protokoll.zeile(
             verkettet("  im Netz mit   ", namen, ", ohne Korrektur weggelassen: ", m_statistik.ohne_netz));
     }
@@ -345,6 +368,7 @@ int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, 
         const std::string alt = mit_art(verkettet(aufruf.virt, rechts(aufruf.rover, 4)), art);
         gut = gut && ordner.loeschen(alt);
     }
+    if (!aufruf.modelldatei.empty()) gut = ordner.loeschen(aufruf.modelldatei) && gut;
     if (!gut) protokoll.fehler(u8"Eine ältere virtuelle Station konnte nicht gelöscht werden!"_w);
     gut = gut && Lauf(aufruf, ordner, uhr, protokoll).rechnen();
     if (!ordner.schreiben(aufruf.protokoll_datei, protokoll.text())) {

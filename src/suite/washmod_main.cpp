@@ -9,7 +9,7 @@ int main(int anzahl, char** argumente)
     suite::Protokoll protokoll;
     int status = 1;
     if (const auto worte = suite::worte(anzahl, argumente))
-        status = suite::washmod(*worte, protokoll);
+        status = suite::washmod(*worte, suite::Arbeitsordner(), protokoll);
     else
         protokoll.fehler(suite::FREMDE_ZEICHEN);
     suite::ausgeben(protokoll.text());

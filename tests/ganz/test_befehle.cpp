@@ -149,5 +149,40 @@ TEST(Ganz_Befehle, VerschobenesVerfahrenWirdImportiertUndWeiterBearbeitet)
     EXPECT_THAT(alle, testing::Not(HasSubstr("55011670")));
 }
 
+// The four stations of the settings round the reference point, over the seven hours of the example's calm ionosphere.
+TEST(Ganz_Befehle, IndexDerIonosphaereStundeFuerStunde)
+{
+    const Beispielplatz platz("B");
+    platz.gut({"antennen", "1", "beispiel/antennen/antennen.atx"});
+    Worte einfuegen = {"--ja", "rinex", "1"};
+    for (const char* station : {"0583", "0590", "0591", "0593", "0596"})
+        for (const char* art : {"o", "n"})
+            einfuegen.push_back(std::string("beispiel/rinex/") + station + "1670.16" + art);
+    platz.gut(einfuegen);
+    const auto text = platz.gut({"i95", "1", "--bild"});
+    const auto kopf = text.aus.find("I95 ppm");
+    EXPECT_NE(kopf, std::string::npos) << text.aus << text.err;
+    // What the batch's own window would show, and where its protocol lies.
+    EXPECT_THAT(text.err, HasSubstr(text.aus.substr(kopf)));
+    EXPECT_THAT(lesen(platz.host("verfahren/001.LIS")), HasSubstr("Modelldatei model.wam, "));
+    const Json stunden = Json::parse(platz.gut({"--json", "i95", "1", "--bild"}).aus)["Stunden"];
+    ASSERT_EQ(stunden.size(), 7u);
+    for (std::size_t i = 0; i < 7; ++i) {
+        EXPECT_EQ(stunden[i]["Tag"], "15.06.2016");
+        EXPECT_EQ(stunden[i]["Stunde"], (Worte{"07-08", "08-09", "09-10", "10-11", "11-12", "12-13", "13-14"}[i]));
+        EXPECT_GT(stunden[i]["I95"], 0.3);
+        EXPECT_LT(stunden[i]["I95"], 2.5);
+        EXPECT_GT(stunden[i]["Epochen"], 100);
+    }
+    // Without a station's data there is no plane, and the hours of the run before are gone.
+    for (const char* station : {"0591", "0596"})
+        fs::remove(platz.host("verfahren") / (station + std::string("1670.16o")));
+    const auto ohne = platz.jorv({"i95", "1", "--bild"});
+    EXPECT_EQ(ohne.status, 1);
+    EXPECT_EQ(ohne.aus, "");
+    EXPECT_THAT(ohne.err, HasSubstr("STOP Der Index der Ionosph"));
+    EXPECT_THAT(lesen(platz.host("verfahren/001.LIS")), HasSubstr("WARNUNG: Die Modelldatei model.wam braucht drei"));
+}
+
 }  // namespace
 }  // namespace jorv

@@ -5,7 +5,6 @@
 #include "suite/Pruefdaten.h"
 #include "suite/ergebnistext.h"
 #include "suite/waprt.h"
-#include "suite/washmod.h"
 
 namespace jorv::suite {
 
@@ -43,6 +42,12 @@ TEST(Wasoft, ein_rover_und_eine_basislinie_wie_in_der_batch)
     EXPECT_TRUE(vrs.meldet("WARNUNG: Die Koordinatendatei 001.COO fehlt"));
     EXPECT_EQ(p.text("virt0920.vrt"), vrs.protokoll);
     EXPECT_FALSE(p.da("wav2.err") || p.da("wav2log.txt"));
+    // One station makes no plane, and no model of an earlier call stays.
+    p.schreiben("model.wam", "alt");
+    const Lauf ohne_ebene = p.wasoft({"0920", "3040", "+Vvirt," + ROVER, "+A001.ATX", "+k"});
+    EXPECT_EQ(ohne_ebene.status, 0);
+    EXPECT_TRUE(ohne_ebene.meldet("WARNUNG: Die Modelldatei model.wam braucht drei Stationen"));
+    EXPECT_FALSE(p.da("model.wam"));
     fs::rename(p.pfad("virt0920.05o"), p.pfad("virt0920.rxo"));
     // Its navigation file is that of the first step, whose type names the year.
     for (const char* name : {"30400920.05n", "07590920.05n"}) fs::remove(p.pfad(name));
@@ -84,7 +89,7 @@ TEST(Wasoft, fehler_stehen_in_wav2_err_und_nie_zwischen_den_zeilen)
         const char* meldung;
     };
     for (const Fall& f :
-         {Fall{{"0920", "3040", "+Vvirt," + ROVER, "+k"}, true, "ERROR: wasoft: die Modelldatei (+k) kann noch nicht"},
+         {Fall{{"0920", "3040", "+Vvirt," + ROVER, "+kk"}, true, "ERROR: wasoft: fehlerhafte Angabe +kk"},
           Fall{{"0920", "3040", "+Vvirt"}, true, "ERROR: wasoft: fehlerhafte Angabe +Vvirt"},
           Fall{{"0920", "1111", "+Vvirt," + ROVER}, true, "ERROR: Keine Referenzstation"},
           Fall{{"virt0920.rxo", ROVER, "+A001.ATX"}, true, "virt0920.rxo konnte nicht ge"},
@@ -122,18 +127,6 @@ TEST(Wasoft, koordinatendatei_geht_dem_dateikopf_vor)
     const auto nachher = loesung_lesen(p.text("07590920.prt"));
     ASSERT_TRUE(nachher);
     EXPECT_NEAR(nachher->rover.z - vorher.z, 1.0, 0.002);
-}
-
-TEST(Washmod, sagt_dass_es_die_modelldatei_noch_nicht_auswertet)
-{
-    for (const auto& [worte, meldung] :
-         {std::pair<Worte, const char*>{{"model.wam", "+Si"}, "aus model.wam kann noch nicht"},
-          {{"model.wam"}, "washmod DATEI +Si"}}) {
-        Protokoll p;
-        EXPECT_EQ(washmod(worte, p), 1);
-        EXPECT_NE(p.text().find(meldung), std::string::npos) << p.text();
-        EXPECT_TRUE(p.text().starts_with("ERROR: washmod: "));
-    }
 }
 
 }  // namespace jorv::suite

@@ -139,8 +139,8 @@ TEST(BasisMitSuite, was_in_einem_fenster_liefe_laeuft_auf_der_konsole_zu_ende)
     EXPECT_EQ(i95.status, 0) << i95.err;
     EXPECT_NE(i95.err.find("-- I95-Auswertung..."), std::string::npos) << i95.err;
     EXPECT_EQ(platz.datei("58300770.10o"), platz.datei("05830770.10o"));
-    EXPECT_NE(platz.datei("001.LIS").find("ERROR: Keine Referenzstation"), std::string::npos);
-    EXPECT_EQ(platz.datei("001.ERR"), platz.datei("001.LIS"));
+    for (const char* name : {"001.LIS", "001.ERR"})
+        EXPECT_NE(platz.datei(name).find("ERROR: Keine Referenzstation"), std::string::npos) << name;
 
     hilfen::schreiben(platz.host("linie/HB001.DAT"), "x");
     EXPECT_NE(platz.jorv({"zeichnen", "1"}).err.find("2 Datei nicht gefunden beim Start von HOLBEK"),

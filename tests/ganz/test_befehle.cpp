@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "ganz/Beispielplatz.h"
+#include "plattform/text.h"
 
 namespace jorv {
 namespace {
@@ -163,7 +164,7 @@ TEST(Ganz_Befehle, IndexDerIonosphaereStundeFuerStunde)
     const auto kopf = text.aus.find("I95 ppm");
     EXPECT_NE(kopf, std::string::npos) << text.aus << text.err;
     // What the batch's own window would show, and where its protocol lies.
-    EXPECT_THAT(text.err, HasSubstr(text.aus.substr(kopf)));
+    EXPECT_THAT(ersetzt(text.err, "\r\n", "\n"), HasSubstr(text.aus.substr(kopf)));
     EXPECT_THAT(lesen(platz.host("verfahren/001.LIS")), HasSubstr("Modelldatei model.wam, "));
     const Json stunden = Json::parse(platz.gut({"--json", "i95", "1", "--bild"}).aus)["Stunden"];
     ASSERT_EQ(stunden.size(), 7u);

@@ -1,11 +1,13 @@
 #include "auswertung/lauf.h"
 
+#include <optional>
 #include <string>
 
 #include "auswertung/ablage.h"
 #include "auswertung/antennenwarnung.h"
 #include "auswertung/aufrufdatei.h"
 #include "auswertung/laufart.h"
+#include "auswertung/vorauslauf.h"
 #include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Kontextmenue.h"
@@ -31,6 +33,7 @@ public:
         if (const Fehler fehler = auswaehlen(g, m_art, m_auswahl); ist_fehler(fehler)) return fehler;
         anzeige_vorbereiten();
         alte_berichte_loeschen(g, im_Verfahren(g, verkettet(m_art.protokoll, g.Verfahrensnummer, ".LIS")));
+        voraus_erlauben();
         for (const auto& stueck : m_auswahl.stuecke) {
             if (!m_art.zaehlt(g, stueck)) continue;
             if (const Fehler fehler = berechnen(stueck); ist_fehler(fehler)) return fehler;
@@ -77,11 +80,9 @@ private:
     {
         fortschritt();
         if (const Fehler fehler = m_art.stueck_vorbereiten(g, stueck); ist_fehler(fehler)) return fehler;
-        if (const Fehler fehler = m_art.batch(g, stueck); ist_fehler(fehler)) return fehler;
-        if (const Fehler fehler = batch_vorhanden(g); ist_fehler(fehler)) return fehler;
-        if (const Fehler fehler = altes_ergebnis_loeschen(stueck); ist_fehler(fehler)) return fehler;
-        Datum_setzen(g);
-        m_umgebung.prozess(g.dateien, verkettet('"', aufrufdatei(g), '"'), [this] { atmen(); });
+        const bool voraus = m_voraus && m_voraus->hat(stueck);
+        if (const Fehler fehler = voraus ? voraus_abholen(stueck) : im_Verfahren_rechnen(stueck); ist_fehler(fehler))
+            return fehler;
         atmen();
         ++m_fertig;
         int status = 0;
@@ -89,6 +90,31 @@ private:
         if (status == 99) return Fehler::gesetzt;
         if (m_art.ablegen(g, stueck)) ++m_fehler;
         m_antennen.lesen(g, kontextdatei(g, "mnu_tree_lis_editieren", stueck), stueck);
+        return Fehler::keiner;
+    }
+
+    void voraus_erlauben()
+    {
+        const int gleichzeitig = m_art.voraus && m_auswahl.wahl > 1 ? m_umgebung.gleichzeitig(g) : 1;
+        if (gleichzeitig > 1) m_voraus.emplace(g, m_art, m_auswahl.stuecke, gleichzeitig);
+    }
+
+    Fehler voraus_abholen(const std::string& stueck)
+    {
+        if (const Fehler fehler = altes_ergebnis_loeschen(stueck); ist_fehler(fehler)) return fehler;
+        Datum_setzen(g);
+        return m_voraus->abholen(stueck, [this] { atmen(); }) ? Fehler::keiner : im_Verfahren_rechnen(stueck);
+    }
+
+    // The batch of the first rover always runs here: it sweeps away what earlier runs have left.
+    Fehler im_Verfahren_rechnen(const std::string& stueck)
+    {
+        if (m_voraus) m_voraus->daneben_starten(stueck);
+        if (const Fehler fehler = m_art.batch(g, stueck); ist_fehler(fehler)) return fehler;
+        if (const Fehler fehler = batch_vorhanden(g); ist_fehler(fehler)) return fehler;
+        if (const Fehler fehler = altes_ergebnis_loeschen(stueck); ist_fehler(fehler)) return fehler;
+        Datum_setzen(g);
+        m_umgebung.prozess(g.dateien, verkettet('"', aufrufdatei(g), '"'), [this] { atmen(); });
         return Fehler::keiner;
     }
 
@@ -106,6 +132,7 @@ private:
     const Laufart& m_art;
     Auswahl m_auswahl;
     Antennenwarnung m_antennen;
+    std::optional<Vorauslauf> m_voraus;
     int m_fertig = 0;  // batches that have run
     int m_fehler = 0;
     int m_bereit;  // ready rovers before the run; the rebuilt tree counts the computed ones no more

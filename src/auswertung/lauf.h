@@ -4,6 +4,7 @@
 #include <functional>
 #include <string_view>
 
+#include "auswertung/gleichzeitig.h"
 #include "modell/Global.h"
 #include "plattform/fehler.h"
 #include "plattform/prozess.h"
@@ -14,6 +15,8 @@ namespace jorv {
 struct Lauf_Umgebung {
     /// Runs a batch file and returns when it has ended; nobody reads what it returns.
     std::function<bool(const Dateisystem&, std::string_view, const std::function<void()>&)> prozess = prozess_warten;
+    /// Rovers that are computed at once; 1 keeps every batch in the project folder and with `prozess`.
+    std::function<int(const Global&)> gleichzeitig = gleichzeitige_rover;
 };
 
 /// The command "WaSoft ausführen" for the open project. Success: the walk and its reports came to their end, also after

@@ -80,11 +80,11 @@ constexpr std::string_view keine_basislinien = "Es sind keine Basislinien im akt
 
 constexpr std::array<Laufart, 3> laufarten = {
     {{"12", "R_Datei", keine_rover, kein_rover_zaehlt, "", stationen_vorbereiten, nichts_je_stueck, rover_nach_namen,
-      rover_batch_vrs, extraktionsdatei, rover_auswerten_vrs, ausgaben_ablegen, rover_zusammenfassen},
+      rover_batch_vrs, extraktionsdatei, rover_auswerten_vrs, ausgaben_ablegen, rover_zusammenfassen, true},
      {"3", "R_Datei", keine_rover, kein_rover_zaehlt, "", nichts, rover_vorbereiten, rover_nach_namen,
-      rover_batch_fremd, extraktionsdatei, rover_auswerten_fremd, ausgaben_ablegen, rover_zusammenfassen},
+      rover_batch_fremd, extraktionsdatei, rover_auswerten_fremd, ausgaben_ablegen, rover_zusammenfassen, true},
      {"4", "B_Datei", keine_basislinien, keine_basislinien, R"(jorv_out\lis_bas\)", nichts, nichts_je_stueck, jedes,
-      basis_batch_einzeln, extraktionsdatei_basis, basis_auswerten, nichts_ablegen, basis_zusammenfassen}}};
+      basis_batch_einzeln, extraktionsdatei_basis, basis_auswerten, nichts_ablegen, basis_zusammenfassen, false}}};
 
 }  // namespace
 

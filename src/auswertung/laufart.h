@@ -23,6 +23,7 @@ struct Laufart {
     void (*auswerten)(Global&, const std::string&, int& status);
     bool (*ablegen)(Global&, const std::string&);  ///< true: the item left an error protocol
     void (*zusammenfassen)(Global&);               ///< reports over all items
+    bool voraus;                                   ///< batches may run ahead of their turn, in folders of their own
 };
 
 /// The kind of the open project; nullptr, told on the screen, when projects of its mode can't be computed.

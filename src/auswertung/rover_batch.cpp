@@ -16,12 +16,9 @@ namespace {
 
 using enum Zeilenart;
 
-constexpr std::array<Batchzeile, 5> alte_ergebnisse = {
-    {{"if exist {VNR}.UTM del {VNR}.UTM", konsole},
-     {R"(if exist jorv_out\dat_ext\{ROVER}.ext del jorv_out\dat_ext\{ROVER}.ext)", konsole},
-     {R"(if exist jorv_out\dat_rov\{ROVER}.UTM del jorv_out\dat_rov\{ROVER}.UTM)", konsole},
-     {R"(if exist jorv_out\krz_rov\{ROVER}.KRZ del jorv_out\krz_rov\{ROVER}.KRZ)", konsole},
-     {R"(if exist jorv_out\lis_rov\{ROVER}.LIS del jorv_out\lis_rov\{ROVER}.LIS)", konsole}}};
+constexpr std::array<std::string_view, 5> veraltete = {
+    "{VNR}.UTM", R"(jorv_out\dat_ext\{ROVER}.ext)", R"(jorv_out\dat_rov\{ROVER}.UTM)",
+    R"(jorv_out\krz_rov\{ROVER}.KRZ)", R"(jorv_out\lis_rov\{ROVER}.LIS)"};
 
 // "pro_vrs" beside "prot_vrs" is harmless: mkdir of an existing folder does nothing.
 constexpr std::array<Batchzeile, 15> vorbereitung_vrs = {{{"if exist wav2log.txt del wav2log.txt"},
@@ -152,7 +149,7 @@ void wa2_zeile(const Global& g, Batchtext& batch, const Wa2_Aufruf& aufruf, cons
 void anfang(const Global& g, Batchtext& batch, std::span<const Batchzeile> vorbereitung)
 {
     batchkopf(g, batch, titel_rover);
-    batch.zeilen(alte_ergebnisse);
+    for (const auto datei : veraltete) batch.zeile(verkettet("if exist ", datei, " del ", datei), konsole);
     batch.zeilen(vorbereitung);
 }
 
@@ -206,6 +203,15 @@ Fehler ohne_zuordnung(Global& g, std::string_view rover, std::string_view text)
 }
 
 }  // namespace
+
+std::vector<std::string> alte_ergebnisse(const Global& g, const std::string& rover)
+{
+    Batchtext batch(g);
+    rover_namen(batch, rover);
+    std::vector<std::string> dateien;
+    for (const auto datei : veraltete) dateien.push_back(batch.einsetzen(datei));
+    return dateien;
+}
 
 Fehler rover_batch_vrs(Global& g, const std::string& rover)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "modell/Global.h"
 #include "plattform/fehler.h"
@@ -17,5 +18,8 @@ Fehler rover_batch_vrs(Global& g, const std::string& rover);
 /// Mode F: the virtual reference station was made elsewhere, `wa2` computes the rover from it. Files and failures as
 /// above; a rover without a linked station is a failure too.
 Fehler rover_batch_fremd(Global& g, const std::string& rover);
+
+/// The files of earlier runs that the batch of a rover begins by deleting, as paths below the project's folder.
+std::vector<std::string> alte_ergebnisse(const Global& g, const std::string& rover);
 
 }  // namespace jorv

@@ -37,9 +37,9 @@ std::string Umfeld::variable(std::string_view name) const
     return text_aus_utf8_mit_ersatz(wert_in(umgebung, utf8_aus_1252(name)).value_or(""));
 }
 
-std::optional<Umfeld> umfeld_des_prozesses()
+std::optional<Umfeld> umfeld_des_prozesses(Laufwerke laufwerke)
 {
-    Dateisystem dateien;
+    Dateisystem dateien(std::move(laufwerke));
     std::error_code fehler;
     const fs::path hier = fs::current_path(fehler);
     const auto start = fehler ? std::nullopt : dateien.laufwerke().dos(hier);

@@ -36,9 +36,9 @@ struct Umfeld {
     std::string voll(std::string_view name) const { return verzeichnisse.voll(name); }
 };
 
-/// The surroundings of this process: its environment, streams and current directory. Drives by JORV_LAUFWERKE.
+/// The surroundings of this process: its environment, streams and current directory.
 /// Nothing when the current directory can't be told as a DOS path.
-std::optional<Umfeld> umfeld_des_prozesses();
+std::optional<Umfeld> umfeld_des_prozesses(Laufwerke laufwerke = Laufwerke::aus_umgebung());
 
 /// A PATH of the host as a list of DOS folders, and the search path back in the host's form. Entries without a
 /// counterpart are left out.

@@ -263,6 +263,13 @@ std::error_code Dateisystem::loeschen(std::string_view pfad) const
     return m_aufrufe->loeschen(utf8(*ort).c_str()) != 0 ? grund() : std::error_code{};
 }
 
+std::error_code Dateisystem::host_verschieben(const fs::path& von, std::string_view nach) const
+{
+    const auto ort = m_laufwerke.host(nach);
+    if (!ort) return kein_laufwerk();
+    return m_aufrufe->umbenennen(utf8(von).c_str(), utf8(*ort).c_str()) != 0 ? grund() : std::error_code{};
+}
+
 std::error_code Dateisystem::ordner_anlegen(std::string_view pfad) const
 {
     const auto ort = m_laufwerke.host(pfad);
@@ -299,13 +306,24 @@ void Dateisystem::reste_wegraeumen(std::string_view ordner) const
     if (!ort) return;
     for (const auto& eintrag : ordner_lesen(ordner)) {
         const auto stelle = eintrag.name.rfind(marke);
-        if (eintrag.ordner || stelle == std::string::npos || !eintrag.name.starts_with('.')) continue;
+        if (stelle == std::string::npos || !eintrag.name.starts_with('.')) continue;
         long kennung = 0;
         const char* beginn = eintrag.name.data() + stelle + marke.size();
         const auto [ende, fehler] = std::from_chars(beginn, eintrag.name.data() + eintrag.name.size(), kennung);
         if (fehler != std::errc{} || *ende != '-' || prozess_lebt(kennung)) continue;
-        m_aufrufe->loeschen(utf8(*ort / aus_utf8(utf8_aus_1252(eintrag.name))).c_str());
+        const fs::path rest = *ort / aus_utf8(utf8_aus_1252(eintrag.name));
+        std::error_code ohne;
+        if (eintrag.ordner)
+            fs::remove_all(rest, ohne);
+        else
+            m_aufrufe->loeschen(utf8(rest).c_str());
     }
+}
+
+fs::path Dateisystem::temporaer(std::string_view ordner, std::string_view name, int zaehler) const
+{
+    const auto ort = m_laufwerke.host(ordner);
+    return ort ? aus_utf8(temporaerer_name(*ort / name, zaehler)) : fs::path{};
 }
 
 }  // namespace jorv

@@ -84,6 +84,9 @@ public:
     /// Deletes a file, also a read-only one.
     [[nodiscard]] std::error_code loeschen(std::string_view pfad) const;
 
+    /// Moves a file of the host to a place on the same disk, replacing what is there; not flushed to the disk.
+    [[nodiscard]] std::error_code host_verschieben(const std::filesystem::path& von, std::string_view nach) const;
+
     /// Creates the folder and missing parents; an existing one is no error.
     [[nodiscard]] std::error_code ordner_anlegen(std::string_view pfad) const;
     /// Removes a folder with all its content.
@@ -92,8 +95,10 @@ public:
     /// can't be read.
     std::vector<Ordnereintrag> ordner_lesen(std::string_view pfad) const;
 
-    /// Removes temporary files that a killed program left in the folder.
+    /// Removes temporary files and folders that a killed program left in the folder.
     void reste_wegraeumen(std::string_view ordner) const;
+    /// Host path of a hidden entry of a folder that is swept away as this process's temporary files are.
+    std::filesystem::path temporaer(std::string_view ordner, std::string_view name, int zaehler) const;
 
 private:
     std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes, Dauer dauer,

@@ -23,6 +23,9 @@ public:
     /// Adds a drive ("D:") or a share ("\\server\freigabe").
     void zuordnen(std::string_view dos_wurzel, std::filesystem::path host_ordner);
 
+    /// Stands a folder of the host in the place of a folder ("Z:\\daten\\netz"), which keeps its DOS path. Linux only.
+    void vertreten(std::string_view dos_ordner, std::filesystem::path host_ordner);
+
     /// Host path of a DOS path; a path without root counts from the current directory. Nothing when there is no such
     /// drive.
     std::optional<std::filesystem::path> host(std::string_view dos_pfad) const;
@@ -51,7 +54,10 @@ private:
     struct Zuordnung {
         std::string dos;  // lower case, no "\" at the end
         std::filesystem::path host;
+        std::string name;      // as it is told
+        bool wurzel = true;    // a drive or a share, not a folder on one
     };
+    const Zuordnung* laengste(std::string_view dos_pfad) const;
     std::vector<Zuordnung> m_tabelle;
 };
 

@@ -34,6 +34,12 @@ std::string_view ohne_schluss(std::string_view name)
     return name;
 }
 
+std::string_view ohne_schluss_strich(std::string_view pfad)
+{
+    while (!pfad.empty() && pfad.back() == '\\') pfad.remove_suffix(1);
+    return pfad;
+}
+
 std::string_view wort_nehmen(std::string_view& rest)
 {
     const auto ende = rest.find_first_of("\\/");
@@ -86,8 +92,28 @@ Laufwerke Laufwerke::aus_umgebung()
 
 void Laufwerke::zuordnen(std::string_view dos_wurzel, fs::path host_ordner)
 {
-    while (!dos_wurzel.empty() && dos_wurzel.back() == '\\') dos_wurzel.remove_suffix(1);
-    m_tabelle.push_back({klein(dos_wurzel), std::move(host_ordner)});
+    const std::string name(ohne_schluss_strich(dos_wurzel));
+    m_tabelle.push_back({klein(name), std::move(host_ordner), ist_unc(name) ? klein(name) : gross(name)});
+}
+
+void Laufwerke::vertreten(std::string_view dos_ordner, fs::path host_ordner)
+{
+    const std::string name(ohne_schluss_strich(dos_ordner));
+    m_tabelle.push_back({klein(name), std::move(host_ordner), name, false});
+}
+
+// The longest entry of the table that begins the path.
+const Laufwerke::Zuordnung* Laufwerke::laengste(std::string_view dos_pfad) const
+{
+    const Zuordnung* beste = nullptr;
+    if (m_tabelle.empty()) return beste;
+    const std::string kleiner = klein(dos_pfad);
+    for (const auto& z : m_tabelle) {
+        const bool passt = kleiner.starts_with(z.dos) &&
+                           (kleiner.size() == z.dos.size() || kleiner[z.dos.size()] == '\\' || z.dos.ends_with(':'));
+        if (passt && (!beste || z.dos.size() > beste->dos.size())) beste = &z;
+    }
+    return beste;
 }
 
 bool Laufwerke::hat_laufwerk(std::string_view laufwerk) const
@@ -100,7 +126,8 @@ bool Laufwerke::hat_laufwerk(std::string_view laufwerk) const
 std::vector<std::string> Laufwerke::alle() const
 {
     std::vector<std::string> namen = {"Z:"};
-    for (const auto& z : m_tabelle) namen.push_back(ist_unc(z.dos) ? z.dos : gross(z.dos));
+    for (const auto& z : m_tabelle)
+        if (z.wurzel) namen.push_back(z.name);
     std::sort(namen.begin(), namen.end(),
               [](const auto& a, const auto& b) { return ist_unc(a) != ist_unc(b) ? ist_unc(b) : a < b; });
     namen.erase(std::unique(namen.begin(), namen.end()), namen.end());
@@ -137,29 +164,14 @@ std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const
 {
     fs::path pfad;
     std::string_view rest = dos_pfad;
-    if (ist_unc(rest)) {
-        // The longest share of the table that begins the path.
-        const Zuordnung* beste = nullptr;
-        const std::string kleiner = klein(rest);
-        for (const auto& z : m_tabelle) {
-            const bool passt =
-                kleiner.starts_with(z.dos) && (kleiner.size() == z.dos.size() || kleiner[z.dos.size()] == '\\');
-            if (passt && (!beste || z.dos.size() > beste->dos.size())) beste = &z;
-        }
-        if (!beste) return std::nullopt;
-        pfad = beste->host;
-        rest.remove_prefix(beste->dos.size());
+    if (const Zuordnung* zuordnung = laengste(rest)) {
+        pfad = zuordnung->host;
+        rest.remove_prefix(zuordnung->dos.size());
+    } else if (ist_unc(rest)) {
+        return std::nullopt;
     } else if (ist_dos_pfad(rest)) {
-        const std::string laufwerk = klein(links(rest, 2));
-        const auto fund =
-            std::find_if(m_tabelle.begin(), m_tabelle.end(), [&](const auto& z) { return z.dos == laufwerk; });
-        if (fund != m_tabelle.end()) {
-            pfad = fund->host;
-        } else if (laufwerk == "z:") {
-            pfad = "/";
-        } else {
-            return std::nullopt;
-        }
+        if (klein(links(rest, 2)) != "z:") return std::nullopt;
+        pfad = "/";
         rest.remove_prefix(2);
     } else if (!rest.empty() && (rest.front() == '\\' || rest.front() == '/')) {
         pfad = "/";
@@ -203,7 +215,7 @@ std::optional<std::string> Laufwerke::dos(const fs::path& host_pfad) const
         const auto [a, b] = std::mismatch(ordner.begin(), ordner.end(), voll.begin(), voll.end());
         const bool passt = a == ordner.end() || (std::next(a) == ordner.end() && a->empty());
         if (passt && ordner.native().size() > laenge) {
-            beginn = ist_unc(z.dos) ? z.dos : gross(z.dos);
+            beginn = z.name;
             wurzel = ordner;
             laenge = ordner.native().size();
         }

@@ -14,6 +14,8 @@ Laufwerke Laufwerke::aus_umgebung()
 
 void Laufwerke::zuordnen(std::string_view, fs::path) {}
 
+void Laufwerke::vertreten(std::string_view, fs::path) {}
+
 bool Laufwerke::hat_laufwerk(std::string_view laufwerk) const
 {
     const auto pfad = host(std::string(links(laufwerk, 2)) + "\\");

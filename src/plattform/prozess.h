@@ -1,8 +1,10 @@
 // Child processes: start and wait.
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +19,28 @@ namespace jorv {
 /// the running program, else in PATH.
 bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile,
                     const std::function<void()>& atmen = {});
+
+/// A batch file that runs beside the program. Linux only: elsewhere none starts.
+class Batchlauf {
+public:
+    /// Starts it as `prozess_warten` does. `statt`, a folder of the host, stands in the place of the folder that the
+    /// batch file's path names: file and outputs lie there, the batch sees them under the path.
+    Batchlauf(const Dateisystem& dateien, std::string_view pfad, const std::filesystem::path& statt = {});
+    Batchlauf(Batchlauf&& anderer) noexcept;
+    Batchlauf& operator=(Batchlauf&&) = delete;
+    /// A batch that still runs is ended, and the program that it waits for.
+    ~Batchlauf();
+
+    bool gestartet() const { return m_gestartet; }
+    /// Waits until one of the batches has ended, at most so long; nothing to wait for is an end.
+    static void abwarten(std::span<Batchlauf* const> laeufe, std::chrono::milliseconds hoechstens);
+    bool laeuft();
+
+private:
+    long m_nummer = -1;
+    int m_ende = -1;  // becomes readable when the process has ended
+    bool m_gestartet = false;
+};
 
 struct Prozessende {
     bool gestartet = false;

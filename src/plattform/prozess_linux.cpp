@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <chrono>
 #include <thread>
+#include <utility>
 
 #include "plattform/pfad.h"
 #include "plattform/prozess.h"
@@ -109,15 +110,60 @@ bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile, 
 {
     std::string_view pfad = trimmen(kommandozeile);
     if (pfad.starts_with('"')) pfad = pfad.substr(1, pfad.find('"', 1) - 1);
-    const fs::path interpreter = programm_finden("jorv-dos");
-    if (interpreter.empty()) return false;
-    const fs::path ordner = dateien.host(pfad_ordner(pfad));
-    const Kind kind = starten(interpreter, {utf8_aus_1252(pfad)}, ordner, -1);
-    if (kind.nummer < 0) return false;
-    while (!warten(kind, Millisekunden(20)))
+    Batchlauf lauf(dateien, pfad);
+    Batchlauf* const einer = &lauf;
+    while (lauf.laeuft()) {
+        Batchlauf::abwarten({&einer, 1}, Millisekunden(20));
         if (atmen) atmen();
-    einsammeln(kind);
-    return true;
+    }
+    return lauf.gestartet();
+}
+
+Batchlauf::Batchlauf(const Dateisystem& dateien, std::string_view pfad, const fs::path& statt)
+{
+    const fs::path interpreter = programm_finden("jorv-dos");
+    if (interpreter.empty()) return;
+    std::vector<std::string> argumente = {utf8_aus_1252(pfad)};
+    if (!statt.empty()) argumente.insert(argumente.begin(), {"--statt", statt.string()});
+    const Kind kind = starten(interpreter, argumente, statt.empty() ? dateien.host(pfad_ordner(pfad)) : statt, -1);
+    m_nummer = kind.nummer;
+    m_ende = kind.ende;
+    m_gestartet = kind.nummer > 0;
+}
+
+Batchlauf::Batchlauf(Batchlauf&& anderer) noexcept
+    : m_nummer(std::exchange(anderer.m_nummer, -1)),
+      m_ende(std::exchange(anderer.m_ende, -1)),
+      m_gestartet(anderer.m_gestartet)
+{
+}
+
+Batchlauf::~Batchlauf()
+{
+    if (!laeuft()) return;
+    ::kill(static_cast<pid_t>(m_nummer), SIGTERM);  // the interpreter ends its program first
+    einsammeln({static_cast<pid_t>(m_nummer), m_ende});
+}
+
+void Batchlauf::abwarten(std::span<Batchlauf* const> laeufe, Millisekunden hoechstens)
+{
+    std::vector<pollfd> fragen;
+    for (const Batchlauf* lauf : laeufe) {
+        if (lauf->m_nummer <= 0) return;
+        if (lauf->m_ende >= 0) fragen.push_back({lauf->m_ende, POLLIN, 0});
+    }
+    // Without a descriptor for each the end shows only by asking again and again.
+    if (fragen.size() < laeufe.size()) hoechstens = std::min(hoechstens, Millisekunden(2));
+    ::poll(fragen.data(), fragen.size(), static_cast<int>(hoechstens.count()));
+}
+
+bool Batchlauf::laeuft()
+{
+    if (m_nummer <= 0) return false;
+    if (!warten({static_cast<pid_t>(m_nummer), m_ende}, Millisekunden(0))) return true;
+    einsammeln({static_cast<pid_t>(m_nummer), m_ende});
+    m_nummer = m_ende = -1;
+    return false;
 }
 
 Prozessende programm_ausfuehren(const fs::path& programm, const std::vector<std::string>& argumente,

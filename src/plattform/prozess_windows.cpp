@@ -36,6 +36,16 @@ bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile, 
     return true;
 }
 
+// The system's own interpreter can't stand one folder in another's place.
+Batchlauf::Batchlauf(const Dateisystem&, std::string_view, const fs::path&) {}
+Batchlauf::Batchlauf(Batchlauf&&) noexcept = default;
+Batchlauf::~Batchlauf() = default;
+void Batchlauf::abwarten(std::span<Batchlauf* const>, std::chrono::milliseconds) {}
+bool Batchlauf::laeuft()
+{
+    return false;
+}
+
 Prozessende programm_ausfuehren(const fs::path& programm, const std::vector<std::string>& argumente,
                                 const fs::path& ordner, int sekunden)
 {

@@ -73,6 +73,19 @@ TEST(Programm, suche)
     }
 }
 
+// Folders of the search path are read once; what comes or goes while a batch runs must show all the same.
+TEST(Programm, suche_waehrend_der_batch_einrichtet)
+{
+    Probe probe;
+    probe.programm("anlegen", "printf '#!/bin/sh\\necho da\\n' > \"$1\" && chmod +x \"$1\"");
+    probe.programm("entfernen", "rm \"$1\"");
+    const std::string e = probe.ort("E:\\").string();
+    const auto ausgang =
+        probe.lauf(verkettet("path %path%;E:\\\nspaet\necho %errorlevel%\nanlegen \"", e,
+                             "/spaet\"\nspaet\nentfernen \"", e, "/spaet\"\nspaet\necho %errorlevel%"));
+    EXPECT_EQ(ausgang.aus, "9009\r\nda\n9009\r\n") << ausgang.fehler;
+}
+
 TEST(Programm, nicht_gefunden_ist_9009)
 {
     Probe probe;
@@ -163,6 +176,23 @@ TEST(Programm, jorv_dos_aufruf)
         EXPECT_EQ(ende.fehlerausgabe.empty(), fall.status == 0);
         EXPECT_EQ(probe.inhalt("E:\\aus.txt"), fall.status == 0 ? verkettet(fall.aus, "\r\n", hier) : "");
     }
+}
+
+TEST(Programm, jorv_dos_mit_einem_ordner_an_stelle_des_anderen)
+{
+    Probe probe;
+    probe.anlegen({"hier=alt\r\n", "E:\\hier=neu\r\n", "E:\\unter\\"});
+    const std::string ordner = verkettet("Z:", ersetzt(probe.ort("").string(), '/', '\\'));
+    probe.batch("E:\\zeig.bat",
+                verkettet("@echo off\nZ:\ncd ", gross(ordner), "\ntype hier>> aus.txt\ntype \"", ordner,
+                          "\\hier\">> unter\\..\\aus.txt\ncd>> aus.txt\ncopy aus.txt ", "unter\\zwei.txt\n"));
+    const std::string statt = probe.ort("E:\\").string();
+    const auto ende =
+        jorv::programm_ausfuehren(JORV_PROGRAMME "/jorv-dos", {"--statt", statt, ordner + "\\zeig.bat"}, statt, 20);
+    EXPECT_EQ(ende.status, 0) << ende.fehlerausgabe;
+    EXPECT_EQ(probe.inhalt("E:\\unter\\zwei.txt"), verkettet("neu\r\nneu\r\n", ordner, "\r\n"));
+    EXPECT_EQ(probe.inhalt("hier"), "alt\r\n");
+    EXPECT_FALSE(fs::exists(probe.ort("aus.txt")));
 }
 
 }  // namespace

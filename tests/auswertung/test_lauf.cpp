@@ -20,6 +20,7 @@ struct Laufstand : Beispiel {
         : Beispiel(rover, modus)
     {
         legen("001.ATX", "TRM22020.00+GP  NONE00220020                                TYPE / SERIAL NO    \r\n");
+        umgebung.gleichzeitig = [](const Global&) { return 1; };
         umgebung.prozess = [this](const Dateisystem&, std::string_view kommandozeile, const std::function<void()>&) {
             kommandozeilen.emplace_back(kommandozeile);
             const std::string batch = datei("001.BAT");

@@ -16,6 +16,7 @@ hilfe() {
 ./jorv.sh start [beispiel]
                           richtet ein, baut und öffnet das Fenster, mit "beispiel" auf dem erzeugten Beispiel
 ./jorv.sh test [--lang]   richtet ein, baut und prüft alles; --lang nimmt die langen Prüfungen dazu
+./jorv.sh paket           richtet ein, baut und packt das Debian-Paket, nennt seinen Pfad
 ./jorv.sh pfad            nennt den Ordner der gebauten Programme
 TEXT
 }
@@ -72,51 +73,10 @@ pruefen() {
     ctest --test-dir "$bau" --output-on-failure --no-tests=error -L schluss
 }
 
-# Dieselbe Angabe, wie die Verfahren sie tragen: Laufwerk Z: ist die Wurzel, Windows-1252.
-dos_pfad() { printf 'Z:%s' "${1//\//\\}"; }
-
-# Das Beispiel hat seine eigenen Einstellungen und seinen eigenen Ordner für Katalog und Grenzen, damit es nichts
-# berührt, was dem Benutzer gehört.
-beispiel_anlegen() {
-    [[ ! -e $beispiel || -e $beispiel/.jorv-beispiel ]] ||
-        abbrechen "$beispiel gibt es schon, und es ist kein Beispiel von hier."
-    rm -rf "$beispiel"
-    mkdir -p "$beispiel/programme"
-    touch "$beispiel/.jorv-beispiel"
-    local datei
-    for datei in "$programme"/*; do # nur Programme: durch einen Verweis würde ein Katalog dort überschrieben
-        [[ ! -x $datei || -d $datei ]] || ln -s "$datei" "$beispiel/programme/"
-    done
-    printf '[GRUNDEINSTELLUNGEN]\r\nEXE-Verzeichnis=%s\r\n' "$(dos_pfad "$beispiel/programme")" |
-        iconv -f UTF-8 -t WINDOWS-1252 >"$beispiel/JorvPlus.INI"
-    "$programme/jorv-simulator" beispiel "$beispiel"
-}
-
-beispiel_rechnen() {
-    local jorv=("$programme/jorv" --einstellungen "$beispiel/JorvPlus.INI") nummer figur
-    "${jorv[@]}" katalog machen "$beispiel/katalog.txt"
-    "${jorv[@]}" grenzen machen "$beispiel/grenzen.txt"
-    nummer=$("${jorv[@]}" neu Beispiel --modus E --verzeichnis "$beispiel/verfahren")
-    "${jorv[@]}" antennen "$nummer" "$beispiel/antennen/antennen.atx"
-    "${jorv[@]}" rinex "$nummer" "$beispiel/rinex"
-    while read -r -a figur; do
-        "${jorv[@]}" figur "$nummer" "${figur[@]}"
-    done <"$beispiel/figuren.txt"
-    "${jorv[@]}" zeigen "$nummer" rover
-    schritt "Auswerten"
-    "${jorv[@]}" auswerten "$nummer" >/dev/null
-    schritt "Ergebnisse und ihre Abweichung von der Wahrheit (Ost, Nord, Höhe)"
-    "$programme/jorv-wahrheit" "$beispiel/wahrheit.txt" "$beispiel/verfahren"
-    printf '\nDas Verfahren liegt in %s. Ansehen:\n  %q --einstellungen %q zeigen %s\n' \
-        "$beispiel/verfahren" "$programme/jorv" "$beispiel/JorvPlus.INI" "$nummer"
-}
-
 vorfuehren() {
     einrichten
-    bauen jorv jorv-dos WATIME wav2 wa2 jorv-simulator jorv-wahrheit
-    schritt "Beispiel in $beispiel"
-    beispiel_anlegen
-    beispiel_rechnen
+    bauen jorv jorv-dos WATIME wav2 wa2 jorv-wahrheit beispielnetz
+    "$wurzel/werkzeuge/beispiel.sh" "$programme" "$bau/beispielnetz" "$beispiel"
 }
 
 # Mit "beispiel" gelten die Einstellungen des Beispiels, und sein Ordner bekommt, was neben den Programmen liegt.
@@ -132,6 +92,14 @@ fenster_oeffnen() {
     JORV_EINSTELLUNGEN=$beispiel/JorvPlus.INI exec "$programme/jorvplus"
 }
 
+packen() {
+    pakete+=(dpkg-dev file)
+    einrichten
+    bauen
+    schritt "Packen"
+    (cd "$bau" && rm -f jorvplus_*.deb && cpack -G DEB >/dev/null && printf '%s\n' "$bau"/jorvplus_*.deb)
+}
+
 case ${1:-hilfe} in
 beispiel)
     [[ $# -eq 1 ]] || { hilfe >&2; exit 2; }
@@ -144,6 +112,10 @@ start)
 test)
     [[ $# -eq 1 || ($# -eq 2 && $2 == --lang) ]] || { hilfe >&2; exit 2; }
     pruefen "${2:-}"
+    ;;
+paket)
+    [[ $# -eq 1 ]] || { hilfe >&2; exit 2; }
+    packen
     ;;
 pfad) printf '%s\n' "$programme" ;;
 hilfe | --help | -h) hilfe ;;

@@ -3,8 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "hilfen/Projekt.h"
 #include "konsole/Befehle.h"
 #include "konsole/Konsolenlauf.h"
+#include "plattform/text.h"
 
 namespace jorv {
 namespace {
@@ -24,12 +26,14 @@ TEST(Programm, FalscherAufrufGibtStatusZweiUndSagtWieEsGeht)
     EXPECT_EQ(ohne.aus + zuviel.aus, "");
 }
 
-TEST(Hilfe, JederBefehlHatZweckUndBeispielMitSeinemNamen)
+TEST(Hilfe, JederBefehlHatZweckUndBeispielMitSeinemNamenUndStehtInDerHandbuchseite)
 {
     const auto uebersicht = konsole({"hilfe"});
     EXPECT_EQ(uebersicht.status, 0);
+    const std::string seite = ersetzt(hilfen::lesen(std::filesystem::path(JORV_QUELLEN) / "docs/jorv.1"), "\\-", "-");
     for (const Befehl* befehl : alle_befehle()) {
         const std::string name(befehl->name);
+        EXPECT_THAT(seite, testing::ContainsRegex("\n\\.B[A-Z]* [^\n]*" + name)) << "docs/jorv.1";
         EXPECT_THAT(uebersicht.aus, HasSubstr("  " + name + " "));
         const auto luecke = name.find(' ');
         const auto hilfe = luecke == std::string::npos

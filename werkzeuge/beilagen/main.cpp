@@ -31,6 +31,8 @@ int bilder(const QDir& ziel)
     for (const auto& logo : beilagen::logos())
         if (!logo.bild.save(ziel.filePath(logo.name + QStringLiteral(".bmp")), "BMP"))
             return fehlschlag(QStringLiteral("%1 kann nicht geschrieben werden").arg(logo.name));
+    if (!programmbild().pixmap(256, 256).save(ziel.filePath(QStringLiteral("jorvplus.png"))))
+        return fehlschlag(QStringLiteral("jorvplus.png kann nicht geschrieben werden"));
     return schreiben(ziel.filePath(QStringLiteral("Jorv.ICO")), beilagen::symboldatei(programmbild()))
                ? 0
                : fehlschlag(QStringLiteral("Jorv.ICO kann nicht geschrieben werden"));

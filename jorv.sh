@@ -95,7 +95,7 @@ fenster_oeffnen() {
 packen() {
     pakete+=(dpkg-dev file)
     einrichten
-    bauen
+    bauen jorvplus beilagen beispielnetz jorv jorv-dos jorv-wahrheit WATIME wav2 wa2 wasoft waprt washmod
     schritt "Packen"
     (cd "$bau" && rm -f jorvplus_*.deb && cpack -G DEB >/dev/null && printf '%s\n' "$bau"/jorvplus_*.deb)
 }

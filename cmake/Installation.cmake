@@ -2,6 +2,7 @@
 # The programs call each other by name and look for each other beside themselves, so they lie in one folder of their own;
 # the folder of all programs holds links to what a user calls.
 include(GNUInstallDirs)
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)  # packing needs no tests
 set(ORT ${CMAKE_INSTALL_LIBDIR}/jorvplus)
 if(CMAKE_INSTALL_LIBDIR MATCHES "/")  # not among the libraries of one processor
   set(ORT lib/jorvplus)

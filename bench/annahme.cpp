@@ -14,9 +14,8 @@
 #include "plattform/text.h"
 #include "plattform/uhr.h"
 #include "plattform/zahl.h"
-#include "simulator/geometrie.h"
-#include "simulator/simulator.h"
 #include "simulator/zufall.h"
+#include "simulator/zufallsnetz.h"
 #include "suite/basislinie.h"
 #include "suite/ergebnistext.h"
 #include "suite/programm.h"
@@ -27,23 +26,14 @@ namespace {
 using namespace jorv;
 namespace sim = simulator;
 
-constexpr std::array<int, 4> FENSTER = {60, 30, 15, 5};  // minutes
-constexpr std::array<const char*, 3> STATIONEN = {"0001", "0002", "0003"};
-constexpr double LAGE_FALSCH = 50.0, HOEHE_FALSCH = 200.0;           // mm
-constexpr double ANFANG = 9 * 3600.0, STUNDE = 3600.0, TAKT = 30.0;  // s
-constexpr std::uint64_t STROM = 77;                                  // of the draws made here
-
-struct Unruhe {
-    const char* name;
-    sim::Ionosphaere ionosphaere;
-};
-const std::array<Unruhe, 3> UNRUHEN = {{{"ruhig", {9, 0.008, 0.004, 0.05, 220, 25, 150}},
-                                        {"mittel", {20, 0.03, 0.02, 0.3, 200, 20, 60}},
-                                        {"stark", {40, 0.10, 0.06, 0.8, 120, 15, 45}}}};
+constexpr std::array<int, 4> FENSTER = {60, 30, 15, 5};     // minutes
+constexpr double LAGE_FALSCH = 50.0, HOEHE_FALSCH = 200.0;  // mm
+constexpr int STUNDE = 60;                                  // minutes
+constexpr std::uint64_t STROM = 78;                         // of the draws made here
 
 struct Fall {
     std::uint64_t saat = 0;
-    const Unruhe* unruhe = nullptr;
+    const sim::Unruhe* unruhe = nullptr;
     double strecke = 0.0;  // m to the nearest station
     bool virtuell = false;
     int fenster = 0;
@@ -53,53 +43,6 @@ struct Summe {
     int faelle = 0, l1 = 0, l0 = 0, offen = 0, ohne = 0, falsch = 0;
     double lage = 0.0, hoehe = 0.0;  // greatest of the fixed ones that aren't wrong, mm
 };
-
-sim::Punkt punkt(const char* pkz, const sim::Vektor& ort)
-{
-    sim::Punkt p;
-    p.pkz = p.name = pkz;
-    p.ort = ort;
-    p.von = ANFANG;
-    p.bis = ANFANG + STUNDE - TAKT;
-    p.takt = TAKT;
-    return p;
-}
-
-// A rover and three stations round it, the first the nearest; everything drawn from the seed.
-sim::Szenario szenario(std::uint64_t saat, const Unruhe& unruhe)
-{
-    sim::Zufall zufall(saat, {STROM});
-    sim::Szenario s;
-    s.saat = s.konstellation = saat;
-    s.wirkungen.uhr_versatz = 1e-4;
-    s.wirkungen.satellitenuhren = s.wirkungen.mehrdeutigkeiten = true;
-    s.wirkungen.ionosphaere = unruhe.ionosphaere;
-    s.wirkungen.ionosphaere.richtung = zufall.zwischen(0, 360);
-    s.wirkungen.troposphaere = {true, zufall.zwischen(0.05, 0.20), zufall.zwischen(-0.3, 0.3),
-                                zufall.zwischen(-0.3, 0.3)};
-    s.wirkungen.spruenge = 0.05;
-    s.wirkungen.coderauschen = 0.25;
-    s.wirkungen.phasenrauschen = 0.002;
-    s.wirkungen.mehrweg = 0.12;
-    s.wirkungen.bahnfehler = 1.0;
-    const sim::Geographisch mitte{zufall.zwischen(47, 55) * sim::grad, zufall.zwischen(6, 14) * sim::grad,
-                                  zufall.zwischen(50, 300)};
-    sim::Punkt rover = punkt("5501", sim::nach_xyz(mitte));
-    rover.naeherung = {zufall.zwischen(-4, 4), zufall.zwischen(-4, 4), zufall.zwischen(-4, 4)};
-    rover.antennenhoehe = 1.5;
-    s.punkte.push_back(rover);
-    double azimut = zufall.zwischen(0, 2 * sim::pi), strecke = zufall.zwischen(1000, 35000);
-    for (const char* name : STATIONEN) {
-        const sim::Vektor ungefaehr =
-            rover.ort + sim::Horizont(mitte).geozentrisch({strecke * std::cos(azimut), strecke * std::sin(azimut), 0});
-        sim::Geographisch ort = sim::nach_geographisch(ungefaehr);
-        ort.hoehe = mitte.hoehe + zufall.zwischen(-150, 250);
-        s.punkte.push_back(punkt(name, sim::nach_xyz(ort)));
-        azimut += zufall.zwischen(100, 140) * sim::grad;
-        strecke = std::max(strecke, zufall.zwischen(15000, 40000));
-    }
-    return s;
-}
 
 class Messreihe {
 public:
@@ -119,8 +62,8 @@ private:
 // Seeds are independent: each makes its files anew in the current folder.
 bool Messreihe::rechnen(std::uint64_t saat)
 {
-    const Unruhe& unruhe = UNRUHEN[saat % UNRUHEN.size()];
-    const sim::Szenario s = szenario(saat, unruhe);
+    const sim::Unruhe& unruhe = sim::unruhe(saat);
+    const sim::Szenario s = sim::zufallsnetz(saat, unruhe);
     std::string meldung;
     if (!sim::schreiben(s, ".", meldung)) {
         std::fputs((meldung + "\n").c_str(), stderr);
@@ -131,7 +74,7 @@ bool Messreihe::rechnen(std::uint64_t saat)
     const double strecke = sim::betrag(s.punkte[1].ort - rover.ort);
     suite::Wav2Aufruf virt;
     virt.rover = name;
-    virt.stationen.assign(STATIONEN.begin(), STATIONEN.end());
+    for (std::size_t i = 1; i < s.punkte.size(); ++i) virt.stationen.push_back(s.punkte[i].pkz);
     virt.virt = "virt";
     suite::Protokoll protokoll;
     const bool hat_virtuelle = suite::wav2(virt, suite::Arbeitsordner(), Systemuhr(), protokoll) == 0;
@@ -146,14 +89,13 @@ bool Messreihe::rechnen(std::uint64_t saat)
 
 void Messreihe::fall(const Fall& f, const std::string& basis, const std::string& rover, const sim::Vektor& wahr)
 {
-    const int minuten = static_cast<int>(STUNDE / 60.0);
     suite::Wa2Aufruf aufruf;
     aufruf.basis = basis;
     aufruf.rover = rover;
     // The window lies anywhere in the hour, the same for both ways.
-    sim::Zufall zufall(f.saat, {STROM + 1, static_cast<std::uint64_t>(f.fenster)});
-    aufruf.ohne_anfang = static_cast<int>(zufall.zwischen(0, minuten - f.fenster));
-    aufruf.ohne_ende = minuten - f.fenster - aufruf.ohne_anfang;
+    sim::Zufall zufall(f.saat, {STROM, static_cast<std::uint64_t>(f.fenster)});
+    aufruf.ohne_anfang = static_cast<int>(zufall.zwischen(0, STUNDE - f.fenster));
+    aufruf.ohne_ende = STUNDE - f.fenster - aufruf.ohne_anfang;
     suite::Protokoll protokoll;
     std::error_code fehler;
     std::optional<suite::Ergebnis> ergebnis;

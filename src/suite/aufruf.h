@@ -21,7 +21,7 @@ struct Wav2Aufruf {
     std::string koordinatendatei;  // empty: the places of the headers
     std::string virt;              // name of the files to make, without their type
     std::string protokoll_datei = "wav2log.txt";
-    std::string modelldatei;  // of the network, empty: none
+    std::string modelldatei;                                 // of the network, empty: none
     int elevation = 10;                                      // degrees
     std::optional<int> beginn, ende;                         // time of day as HHMMSS
     Troposphaerenmodell modell = Troposphaerenmodell::voll;  // no option of the command line

@@ -5,12 +5,12 @@
 
 #include "plattform/text.h"
 #include "plattform/zahl.h"
-#include "suite/entscheidung.h"
 #include "suite/ergebnistext.h"
 #include "suite/felder.h"
 #include "suite/koordinaten.h"
 #include "suite/spalten.h"
 #include "suite/stationen.h"
+#include "suite/versuche.h"
 #include "suite/virtuelle_station.h"
 
 namespace jorv::suite {
@@ -18,12 +18,11 @@ namespace jorv::suite {
 namespace {
 
 constexpr std::string_view PROGRAMM = "wa2 1.0";
-constexpr std::string_view LOESERVERSION = "2.4.3";  // the one whose option words and columns are known
-constexpr double GLEICHZEITIG = 0.1;                 // s between the tags of a common epoch
-constexpr double ZENIT_LAENGE = 10000.0;             // metres
-constexpr double ZENIT_HOEHE = 100.0;                // metres
-constexpr int ZONE_WEIT = 6;                         // degrees from the central meridian
-constexpr double SEKUNDEN_JE_EPOCHE = 0.05;          // time limit of the solver, far above what it needs
+constexpr double GLEICHZEITIG = 0.1;         // s between the tags of a common epoch
+constexpr double ZENIT_LAENGE = 10000.0;     // metres
+constexpr double ZENIT_HOEHE = 100.0;        // metres
+constexpr int ZONE_WEIT = 6;                 // degrees from the central meridian
+constexpr double SEKUNDEN_JE_EPOCHE = 0.05;  // time limit of the solver, far above what it needs
 constexpr int SEKUNDEN_GRUND = 120;
 
 class Lauf {
@@ -44,11 +43,7 @@ private:
     std::optional<Antennenblock> antenne(std::string_view antex, const Beobachtungsdatei& datei, std::string& herkunft);
     bool auftrag_fuellen();
     std::optional<Ergebnis> loesen(const Loeser& loeser);
-    std::optional<Ergebnis> fest_loesen(const Loeser& loeser, bool zwei_frequenzen);
-    std::optional<Ergebnis> offen_loesen(const Loeser& loeser, bool zwei_frequenzen);
-    Loeserlauf laufen(const Loeser& loeser, Laufart art);
-    void laufzeile(Laufart art, const Loeserlauf& lauf, const Urteil& urteil);
-    Ergebnis ergebnis(const Loeserausgabe& ausgabe, const Urteil& urteil, std::string_view typ) const;
+    Ergebnis ergebnis(const Fund& fund) const;
     bool abbruch(std::string_view grund)
     {
         m_protokoll.fehler(grund);
@@ -64,8 +59,6 @@ private:
     bool m_netz = false;                               // the base is a virtual station that a network has corrected
     Loeserauftrag m_auftrag;
     std::string m_basis_kalibrierung = "keine", m_rover_kalibrierung = "keine";
-    bool m_version_geprueft = false;
-    bool m_haengt = false;  // the solver reached its time limit: no further run
 };
 
 bool Lauf::dateien_lesen()
@@ -223,67 +216,10 @@ bool Lauf::auftrag_fuellen()
     return true;
 }
 
-Loeserlauf Lauf::laufen(const Loeser& loeser, Laufart art)
+Ergebnis Lauf::ergebnis(const Fund& fund) const
 {
-    Loeserlauf lauf = loeser.rechnen(art);
-    m_haengt = lauf.zeit_abgelaufen;
-    const std::string& programm = lauf.ausgabe.programm;
-    if (!m_version_geprueft && !programm.empty() && programm.find(LOESERVERSION) == std::string::npos)
-        m_protokoll.warnung(verkettet("Das Rechenprogramm ist \"", programm, "\", erprobt ist ", LOESERVERSION, "."));
-    m_version_geprueft = m_version_geprueft || !programm.empty();
-    return lauf;
-}
-
-void Lauf::laufzeile(Laufart art, const Loeserlauf& lauf, const Urteil& urteil)
-{
-    const auto& p = lauf.ausgabe.positionen;
-    std::string zeile = "Lauf ";
-    anhaengen_links(zeile, laufname(art), 12);
-    if (p.empty()) {
-        m_protokoll.warnung(verkettet("Lauf ", laufname(art), ": ", lauf.fehler, lauf.fehlerausgabe.empty() ? "" : ": ",
-                                      lauf.fehlerausgabe));
-        return;
-    }
-    const double verhaeltnis = p[std::min(urteil.epoche, p.size() - 1)].verhaeltnis;
-    zeile += verkettet("Epochen ", p.size(), ", fest ", urteil.fest, u8", Verhältnis "_w, fest(verhaeltnis, 1),
-                       ", Anteil ", fest(urteil.anteil, 2), ", s0 ", fest(urteil.masse.s0, 2), ": ");
-    m_protokoll.zeile(zeile + (urteil.angenommen ? "angenommen" : urteil.grund));
-}
-
-std::optional<Ergebnis> Lauf::fest_loesen(const Loeser& loeser, bool zwei_frequenzen)
-{
-    const std::vector<Versuch> versuche = plan(m_aufruf.art, m_laenge, zwei_frequenzen, m_netz);
-    if (m_aufruf.art == Loesungsart::l1 && m_laenge > MITTEL)
-        m_protokoll.warnung(verkettet(u8"L1 ist für "_w, fest(m_laenge / 1000.0, 1), " km zu lang."));
-    for (const Versuch& versuch : versuche) {
-        if (m_haengt) break;
-        const Loeserlauf lauf = laufen(loeser, versuch.art);
-        const Urteil urteil = urteilen(lauf.ausgabe, versuch.annahme);
-        laufzeile(versuch.art, lauf, urteil);
-        if (urteil.angenommen) return ergebnis(lauf.ausgabe, urteil, versuch.typ);
-    }
-    return {};
-}
-
-std::optional<Ergebnis> Lauf::offen_loesen(const Loeser& loeser, bool zwei_frequenzen)
-{
-    // Where no integers hold from a network's station, it has not caught the ionosphere.
-    const double strecke = m_netz ? std::max(m_laenge, MITTEL) : m_laenge;
-    for (const Laufart art : plan_offen(strecke, zwei_frequenzen)) {
-        if (m_haengt) break;
-        const Loeserlauf lauf = laufen(loeser, art);
-        const Urteil urteil = urteilen_offen(lauf.ausgabe, art);
-        laufzeile(art, lauf, urteil);
-        if (!urteil.angenommen) continue;
-        m_protokoll.warnung(art == Laufart::code ? u8"Nur eine Lösung aus Codemessungen (Meter)."_w
-                                                 : u8"Die Mehrdeutigkeiten sind nicht festgesetzt (Dezimeter)."_w);
-        return ergebnis(lauf.ausgabe, urteil, "FloatDGNSS");
-    }
-    return {};
-}
-
-Ergebnis Lauf::ergebnis(const Loeserausgabe& ausgabe, const Urteil& urteil, std::string_view typ) const
-{
+    const Loeserausgabe& ausgabe = *fund.ausgabe;
+    const Urteil& urteil = fund.urteil;
     const Position& p = ausgabe.positionen[urteil.epoche];
     Ergebnis e;
     e.basis_datei = m_basis.name;
@@ -296,7 +232,7 @@ Ergebnis Lauf::ergebnis(const Loeserausgabe& ausgabe, const Urteil& urteil, std:
     e.ende = ausgabe.positionen.back().zeit;
     const double takt = std::max({m_auftrag.takt, m_rover.daten.intervall(), m_basis.daten.intervall()});
     e.minuten = (abstand(e.ende, e.beginn) + takt) / 60.0;
-    e.loesungstyp = typ;
+    e.loesungstyp = fund.typ;
     genauigkeit_setzen(e, p);
     e.sigma0 = urteil.masse.s0 * SIGMA_PHASE;
     e.mehrdeutigkeiten = urteil.masse.mehrdeutigkeiten;
@@ -321,10 +257,15 @@ std::optional<Ergebnis> Lauf::loesen(const Loeser& loeser)
     };
     const bool zwei_frequenzen = hat_l2(m_basis) && hat_l2(m_rover);
     if (!zwei_frequenzen) m_protokoll.zeile("Nur eine Frequenz");
-    auto ergebnis = fest_loesen(loeser, zwei_frequenzen);
-    if (!ergebnis) ergebnis = offen_loesen(loeser, zwei_frequenzen);
-    if (!ergebnis) m_protokoll.fehler(u8"Keine Lösung!"_w);
-    return ergebnis;
+    if (m_aufruf.art == Loesungsart::l1 && m_laenge > MITTEL)
+        m_protokoll.warnung(verkettet(u8"L1 ist für "_w, fest(m_laenge / 1000.0, 1), " km zu lang."));
+    Versuchsreihe reihe(loeser, m_protokoll);
+    auto fund = reihe.fest_loesen(plan(m_aufruf.art, m_laenge, zwei_frequenzen, m_netz));
+    // Where no integers hold from a network's station, it has not caught the ionosphere.
+    if (!fund) fund = reihe.offen_loesen(plan_offen(m_netz ? std::max(m_laenge, MITTEL) : m_laenge, zwei_frequenzen));
+    if (fund) return ergebnis(*fund);
+    m_protokoll.fehler(u8"Keine Lösung!"_w);
+    return {};
 }
 
 std::optional<Ergebnis> Lauf::rechnen()

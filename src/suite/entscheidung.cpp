@@ -12,6 +12,7 @@ namespace {
 // Fewer epochs or less time can't show whether the integers hold.
 constexpr std::size_t EPOCHEN_MINDESTENS = 5;
 constexpr double DAUER_MINDESTENS = 89.0;  // s
+constexpr double EINIG = 0.030;            // m between a run and its witness
 constexpr double S0_OFFEN = 3.0;           // a float run above it has not modelled the ionosphere
 
 // The last fixed epoch, when it is the last one or lies in the final tenth; else the count of positions.
@@ -30,20 +31,28 @@ Annahme annahme_l1(double laenge)
     return laenge <= KURZ ? Annahme{3.0, 0.25, 3.0} : Annahme{5.0, 0.50, 1.0};
 }
 
+Annahme annahme_nur_l1(double laenge)
+{
+    const Annahme a = annahme_l1(laenge);
+    return {a.verhaeltnis, std::max(a.anteil, 0.80), std::min(a.s0, 1.0)};
+}
+
 std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, bool netz)
 {
     std::vector<Versuch> versuche;
+    const auto zeuge = zwei_frequenzen ? std::optional(Laufart::l1_l2) : std::nullopt;
     const bool ruhig_zuerst = netz && zwei_frequenzen && art == Loesungsart::automatisch;
     if (ruhig_zuerst) {
-        versuche.push_back({Laufart::l1, ANNAHME_NETZ, "FixedL1"});
-        versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0"});
+        versuche.push_back({Laufart::l1, ANNAHME_NETZ, "FixedL1", zeuge});
+        versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});
     }
+    const Annahme l1 = zwei_frequenzen ? annahme_l1(laenge) : annahme_nur_l1(laenge);
     if (art == Loesungsart::l1 || (art == Loesungsart::automatisch && laenge <= MITTEL)) {
-        versuche.push_back({Laufart::l1, annahme_l1(laenge), "FixedL1"});
-        if (zwei_frequenzen) versuche.push_back({Laufart::l1_l2, annahme_l1(laenge), "FixedL1"});
+        versuche.push_back({Laufart::l1, l1, "FixedL1", zeuge});
+        if (zwei_frequenzen) versuche.push_back({Laufart::l1_l2, l1, "FixedL1", {}});
     }
     if (art != Loesungsart::l1 && zwei_frequenzen && !ruhig_zuerst)
-        versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0"});
+        versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});
     return versuche;
 }
 
@@ -81,6 +90,14 @@ Urteil urteilen(const Loeserausgabe& ausgabe, const Annahme& annahme)
     else
         u.angenommen = true;
     return u;
+}
+
+bool einig(const Position& lauf, const Position& zeuge, std::string& grund)
+{
+    const double abstand_mm = laenge(lauf.ort - zeuge.ort) * 1000.0;
+    if (abstand_mm <= EINIG * 1000.0) return true;
+    grund = verkettet(fest(abstand_mm, 0), u8" mm verschieden, höchstens "_w, fest(EINIG * 1000.0, 0));
+    return false;
 }
 
 Urteil urteilen_offen(const Loeserausgabe& ausgabe, Laufart art)

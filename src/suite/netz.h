@@ -35,7 +35,6 @@ struct Netz {
 
 /// The stations and the corrections of the network. No corrections, with the reason in the protocol, when no station
 /// beside the master can be used or the rover lies too far outside.
-Netz netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner,
-                                 Protokoll& protokoll);
+Netz netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner, Protokoll& protokoll);
 
 }  // namespace jorv::suite

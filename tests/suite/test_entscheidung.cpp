@@ -83,6 +83,29 @@ TEST(Entscheidung, urteilt_nach_der_reihe_und_der_wahren_laenge)
     EXPECT_FALSE(urteilen({}, ANNAHME_L0).angenommen);
 }
 
+TEST(Entscheidung, eine_frequenz_allein_braucht_mehr)
+{
+    EXPECT_TRUE(urteilen(lauf({120, 71, 0, 3.0, 0.867}), annahme_nur_l1(3000)).angenommen);
+    EXPECT_FALSE(urteilen(lauf({120, 73, 0, 10, 0.4}), annahme_nur_l1(3000)).angenommen);
+    EXPECT_FALSE(urteilen(lauf({120, 20, 0, 10, 0.958}), annahme_nur_l1(3000)).angenommen);
+    EXPECT_FALSE(urteilen(lauf({120, 20, 0, 4.9, 0.4}), annahme_nur_l1(20000)).angenommen);
+    EXPECT_EQ(plan(Loesungsart::l1, 3000, false)[0].annahme.anteil, annahme_nur_l1(3000).anteil);
+    EXPECT_EQ(plan(Loesungsart::l1, 3000, true)[0].annahme.anteil, annahme_l1(3000).anteil);
+}
+
+TEST(Entscheidung, zeuge_kommt_zum_selben_ort)
+{
+    std::string grund;
+    const Position hier{{}, {4e6, 5e5, 4.9e6}, Guete::fest, {}, {}, 5.0};
+    Position dort = hier;
+    dort.ort.z += 0.029;
+    EXPECT_TRUE(einig(hier, dort, grund));
+    EXPECT_EQ(grund, "");
+    dort.ort.x -= 0.010;
+    EXPECT_FALSE(einig(hier, dort, grund));
+    EXPECT_NE(grund.find("31 mm"), std::string::npos) << grund;
+}
+
 TEST(Entscheidung, residuen_loser_satelliten_zaehlen_nicht_im_festen_lauf)
 {
     Loeserausgabe a = lauf({});
@@ -99,16 +122,19 @@ TEST(Entscheidung, plant_nach_art_laenge_und_frequenzen)
 {
     const auto arten = [](const std::vector<Versuch>& versuche) {
         std::string text;
-        for (const Versuch& v : versuche) text.append(laufname(v.art)).append(" ");
+        for (const Versuch& v : versuche) {
+            EXPECT_TRUE(!v.zeuge || *v.zeuge == Laufart::l1_l2);
+            text.append(laufname(v.art)).append(v.zeuge ? "! " : " ");
+        }
         return text;
     };
-    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, true)), "L1 L1+L2 L0 ");
-    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 30000, true)), "L1 L1+L2 L0 ");
+    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, true)), "L1! L1+L2 L0 ");
+    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 30000, true)), "L1! L1+L2 L0 ");
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 30001, true)), "L0 ");
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, false)), "L1 ");
-    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, true, true)), "L1 L0 L1 L1+L2 ");
+    EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, true, true)), "L1! L0 L1! L1+L2 ");
     EXPECT_EQ(arten(plan(Loesungsart::automatisch, 3000, false, true)), "L1 ");
-    EXPECT_EQ(arten(plan(Loesungsart::l1, 50000, true)), "L1 L1+L2 ");
+    EXPECT_EQ(arten(plan(Loesungsart::l1, 50000, true)), "L1! L1+L2 ");
     EXPECT_EQ(arten(plan(Loesungsart::l0, 3000, true)), "L0 ");
     EXPECT_EQ(plan_offen(3000, true).front(), Laufart::offen);
     EXPECT_EQ(plan_offen(15000, true).front(), Laufart::offen);

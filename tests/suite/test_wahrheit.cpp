@@ -3,6 +3,7 @@
 
 #include "simulator/beispiel.h"
 #include "simulator/szenario_text.h"
+#include "simulator/zufallsnetz.h"
 #include "suite/Pruefdaten.h"
 #include "suite/netz_interpolation.h"
 
@@ -161,6 +162,33 @@ TEST(Wahrheit, ebene_gibt_an_den_stationen_deren_wert)
         const auto g = ebenengewichte(master, bei(f.ort[0], f.ort[1]), orte);
         ASSERT_EQ(g.size(), f.gewichte.size());
         for (std::size_t k = 0; k < g.size(); ++k) EXPECT_NEAR(g[k], f.gewichte[k], 1e-3);
+    }
+}
+
+// Short spans under a strong ionosphere that the solver fixes wrongly on L1, by decimetres and metres and with ratios
+// up to 16, while the second frequency doesn't follow.
+TEST(Wahrheit, zweite_frequenz_deckt_falsche_ganze_zahlen_auf)
+{
+    NUR_MIT_LOESER();
+    struct Fall {
+        std::uint64_t saat;
+        bool virtuell;
+        int ab, minuten;
+    };
+    for (const Fall& f : {Fall{3008, false, 53, 5}, Fall{3026, true, 1, 30}, Fall{5012, false, 6, 5}}) {
+        const simulator::Szenario s = simulator::zufallsnetz(f.saat, simulator::unruhe(f.saat));
+        const Pruefordner p;
+        std::string meldung;
+        ASSERT_TRUE(simulator::schreiben(s, p.temp.host(), meldung)) << meldung;
+        const std::string rover = simulator::dateiname(s, s.punkte[0], 'o');
+        ASSERT_TRUE(!f.virtuell || p.wav2({rover, "0001,0002,0003"}).status == 0);
+        const std::string basis =
+            f.virtuell ? "virt" + rover.substr(4, 3) + rover.substr(8) : simulator::dateiname(s, s.punkte[1], 'o');
+        const Lauf lauf = p.wa2({basis, rover, verkettet("-M", f.ab), verkettet("-N", 60 - f.minuten - f.ab)});
+        ASSERT_EQ(lauf.status, 0) << lauf.ausgabe;
+        SCOPED_TRACE(lauf.protokoll);
+        EXPECT_NE(lauf.protokoll.find("tigt nicht L1, "), std::string::npos);
+        if (p.wort("typ") != "FloatDGNSS") expect_nahe(p.rover(), wahr(s.punkte[0]), 50.0, 200.0);
     }
 }
 

@@ -1,0 +1,42 @@
+#pragma once
+// Runs the solver in the order of a plan until a solution is believed; each run happens once, however often it is asked
+// for, and leaves its line in the protocol.
+
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "suite/entscheidung.h"
+#include "suite/protokoll.h"
+
+namespace jorv::suite {
+
+/// The run that is believed; `ausgabe` lives as long as the series.
+struct Fund {
+    const Loeserausgabe* ausgabe = nullptr;
+    Urteil urteil;
+    std::string_view typ;
+};
+
+class Versuchsreihe {
+public:
+    Versuchsreihe(const Loeser& loeser, Protokoll& protokoll) : m_loeser(loeser), m_protokoll(protokoll) {}
+
+    /// The first fixed run that is accepted and, where it has a witness, confirmed by it.
+    std::optional<Fund> fest_loesen(const std::vector<Versuch>& versuche);
+    /// The first float or code run that is accepted.
+    std::optional<Fund> offen_loesen(const std::vector<Laufart>& arten);
+
+private:
+    const Loeserlauf& lauf(Laufart art);
+    bool bestaetigt(const Versuch& versuch, const Position& position);
+    void zeile(Laufart art, const Loeserlauf& lauf, const Urteil& urteil, std::string_view ausgang);
+
+    const Loeser& m_loeser;
+    Protokoll& m_protokoll;
+    std::map<Laufart, Loeserlauf> m_laeufe;
+    bool m_version_geprueft = false;
+    bool m_haengt = false;  // the solver reached its time limit: no further run
+};
+
+}  // namespace jorv::suite

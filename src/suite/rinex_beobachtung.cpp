@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "plattform/text.h"
+#include "suite/glonass.h"
 #include "suite/spalten.h"
 
 namespace jorv::suite {
@@ -31,8 +32,8 @@ int satellitennummer(char zehner, char einer)
 
 class Leser {
 public:
-    Leser(std::string_view text, Umfang umfang, const std::optional<Zeitspanne>& fenster)
-        : m_rest(text), m_umfang(umfang), m_fenster(fenster)
+    Leser(std::string_view text, Umfang umfang, const std::optional<Zeitspanne>& fenster, Systeme systeme)
+        : m_rest(text), m_umfang(umfang), m_fenster(fenster), m_glonass(systeme == Systeme::gps_glonass)
     {
     }
 
@@ -56,10 +57,11 @@ private:
     std::string_view m_rest;
     Umfang m_umfang;
     std::optional<Zeitspanne> m_fenster;
+    bool m_glonass;
     RinexBeobachtung m_ziel;
     std::vector<int> m_spalten;  // place of each column's kind in ARTNAMEN, -1 for other kinds
     std::size_t m_arten_angesagt = 0;
-    std::vector<int> m_satelliten;  // of the present epoch: GPS number, 0 for other systems
+    std::vector<int> m_satelliten;  // of the present epoch, 0 for systems that nobody wants
     char m_leeres_system = 'G';
     int m_unlesbar = 0, m_rueckwaerts = 0;
     bool m_abgebrochen = false;
@@ -208,7 +210,7 @@ bool Leser::satelliten_lesen(std::string_view z, int anzahl)
         const char system = z[spalte] == ' ' ? m_leeres_system : z[spalte];
         const int nummer = satellitennummer(z[spalte + 1], z[spalte + 2]);
         if (nummer < 0) return false;
-        m_satelliten.push_back(system == 'G' ? nummer : 0);
+        m_satelliten.push_back(system == 'G' ? nummer : system == 'R' && m_glonass ? GLONASS + nummer : 0);
     }
     return true;
 }
@@ -297,9 +299,9 @@ double RinexBeobachtung::intervall() const
 }
 
 std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund,
-                                                  const std::optional<Zeitspanne>& fenster)
+                                                  const std::optional<Zeitspanne>& fenster, Systeme systeme)
 {
-    Leser leser(text, umfang, fenster);
+    Leser leser(text, umfang, fenster, systeme);
     if (!leser.kopf(grund)) return {};
     if (umfang != Umfang::kopf) leser.daten();
     return leser.ergebnis();

@@ -1,7 +1,7 @@
 #pragma once
-// RINEX 2 observation files: header, epochs and the GPS observations of code, phase and signal strength on L1 and L2.
-// Works on the whole text of a file in memory. Events, headers inside the data, power failures, satellites on
-// continuation lines and damaged epochs are met in real files and passed over with a remark.
+// RINEX 2 observation files: header, epochs and the observations of GPS and GLONASS of code, phase and signal strength
+// on L1 and L2. Works on the whole text of a file in memory. Events, headers inside the data, power failures,
+// satellites on continuation lines and damaged epochs are met in real files and passed over with a remark.
 
 #include <array>
 #include <cstdint>
@@ -49,13 +49,16 @@ struct RinexKopf {
     std::string kommentar_virtuell;  // the comment by which a virtual station names its master, see virtuelle_station
 };
 
+/// Whose observations are wanted; those of GLONASS carry the slot plus 100 as their satellite.
+enum class Systeme { gps, gps_glonass };
+
 /// How much of the data is wanted: the times alone take a fraction of the time of all values.
 enum class Umfang { kopf, epochen, alles };
 
 struct RinexBeobachtung {
     RinexKopf kopf;
     std::vector<Epoche> epochen;     // strictly ascending
-    std::vector<Messung> messungen;  // GPS alone, empty unless Umfang::alles
+    std::vector<Messung> messungen;  // of the systems asked for, empty unless Umfang::alles
     std::vector<std::string> hinweise;
 
     /// The usual distance of two epochs in seconds (median, to the millisecond); 0 with fewer than two.
@@ -66,6 +69,7 @@ struct RinexBeobachtung {
 /// With a window all epochs are listed, but only those inside it hold observations.
 /// A change to a moving antenna or to another site after data have been read ends the reading there, with a remark.
 std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund,
-                                                  const std::optional<Zeitspanne>& fenster = {});
+                                                  const std::optional<Zeitspanne>& fenster = {},
+                                                  Systeme systeme = Systeme::gps);
 
 }  // namespace jorv::suite

@@ -1,6 +1,9 @@
 #include "suite/rinex_schreiben.h"
 
+#include <algorithm>
+
 #include "plattform/text.h"
+#include "suite/glonass.h"
 #include "suite/spalten.h"
 
 namespace jorv::suite {
@@ -52,7 +55,10 @@ void Schreiber::kopf(std::string_view programm, const Zeitpunkt& jetzt)
 {
     const RinexKopf& k = m_b.kopf;
     std::string zeile;
-    kopfzeile("     2.11           OBSERVATION DATA    G (GPS)", "RINEX VERSION / TYPE");
+    const bool gemischt =
+        std::any_of(m_b.messungen.begin(), m_b.messungen.end(), [](const Messung& m) { return m.satellit > GLONASS; });
+    kopfzeile(verkettet("     2.11           OBSERVATION DATA    ", gemischt ? "M (MIXED)" : "G (GPS)"),
+              "RINEX VERSION / TYPE");
     anhaengen_links(zeile, programm, 40);
     kopfzeile(zeile + datum_text(jetzt), "PGM / RUN BY / DATE");
     if (!k.kommentar_virtuell.empty()) kopfzeile(k.kommentar_virtuell, "COMMENT");
@@ -95,8 +101,9 @@ void Schreiber::epoche(const Epoche& e)
     anhaengen_fest(m_text, static_cast<double>(e.anzahl), 3, 0);
     for (std::size_t i = 0; i < e.anzahl; ++i) {
         if (i > 0 && i % SATELLITEN_JE_ZEILE == 0) m_text.append("\r\n").append(32, ' ');
-        m_text.push_back('G');
-        zwei(m_b.messungen[e.erste + i].satellit);
+        const int satellit = m_b.messungen[e.erste + i].satellit;
+        m_text.push_back(satellit > GLONASS ? 'R' : 'G');
+        zwei(satellit % GLONASS);
         if (i + 1 == std::min(e.anzahl, SATELLITEN_JE_ZEILE) && !e.uhr.empty()) {
             m_text.append(3 * (SATELLITEN_JE_ZEILE - i - 1), ' ');
             m_text.append(12 - std::min<std::size_t>(12, e.uhr.size()), ' ').append(e.uhr);

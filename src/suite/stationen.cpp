@@ -65,7 +65,8 @@ std::string mit_art(std::string_view dateiname, char art)
 }
 
 std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::string_view name, Umfang umfang,
-                                             Protokoll& protokoll, const std::optional<Zeitspanne>& fenster)
+                                             Protokoll& protokoll, const std::optional<Zeitspanne>& fenster,
+                                             Systeme systeme)
 {
     std::error_code fehler;
     const Abbild abbild = ordner.lesen(name, fehler);
@@ -74,7 +75,7 @@ std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::s
         return {};
     }
     std::string grund;
-    auto daten = beobachtung_lesen(abbild.text(), umfang, grund, fenster);
+    auto daten = beobachtung_lesen(abbild.text(), umfang, grund, fenster, systeme);
     if (!daten) {
         protokoll.fehler(verkettet("Die Datei ", name, " ", grund, "!"));
         return {};
@@ -101,12 +102,12 @@ std::vector<std::string> stationsdateien(const std::vector<std::string>& alle, s
 }
 
 std::optional<Beobachtungsdatei> station_lesen(const Arbeitsordner& ordner, const std::vector<std::string>& dateien,
-                                               const Zeitspanne& spanne, Protokoll& protokoll)
+                                               const Zeitspanne& spanne, Protokoll& protokoll, Systeme systeme)
 {
     const Zeitspanne fenster{verschoben(spanne.von, -RAND), verschoben(spanne.bis, RAND)};
     std::vector<Beobachtungsdatei> teile;
     for (const std::string& name : dateien) {
-        auto teil = datei_lesen(ordner, name, Umfang::alles, protokoll, fenster);
+        auto teil = datei_lesen(ordner, name, Umfang::alles, protokoll, fenster, systeme);
         if (!teil) continue;
         beschneiden(teil->daten, spanne);
         if (teil->daten.epochen.empty()) continue;
@@ -145,6 +146,22 @@ Navigation navigation_suchen(const Arbeitsordner& ordner, const std::vector<std:
     if (!navigation.saetze.empty() || beobachtungsdateien.empty()) return navigation;
     const std::string jahr(rechts(ohne_ende(beobachtungsdateien.back(), 1), 2));
     for (const std::string& name : passende(ordner.namen(), verkettet("*.", jahr, "n"))) lesen(name);
+    return navigation;
+}
+
+Glonassnavigation glonass_suchen(const Arbeitsordner& ordner, const std::vector<std::string>& beobachtungsdateien,
+                                 Protokoll& protokoll)
+{
+    Glonassnavigation navigation;
+    for (const std::string& datei : beobachtungsdateien) {
+        const std::string name = mit_art(datei, 'g');
+        if (!ordner.vorhanden(name)) continue;
+        std::error_code fehler;
+        const Abbild abbild = ordner.lesen(name, fehler);
+        const int saetze = fehler ? -1 : glonass_lesen(abbild.text(), navigation);
+        protokoll.zeile(saetze < 0 ? verkettet("Navigationsdatei ", name, " ist nicht lesbar")
+                                   : verkettet("Navigationsdatei ", name, ": ", saetze, u8" GLONASS-Sätze"_w));
+    }
     return navigation;
 }
 

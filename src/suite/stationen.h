@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "suite/arbeitsordner.h"
+#include "suite/glonass.h"
 #include "suite/protokoll.h"
 #include "suite/rinex_beobachtung.h"
 #include "suite/rinex_navigation.h"
@@ -22,7 +23,8 @@ struct Beobachtungsdatei {
 /// Reads an observation file of the folder; its remarks go to the protocol. Nothing, with an ERROR line, when it can't
 /// be used.
 std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::string_view name, Umfang umfang,
-                                             Protokoll& protokoll, const std::optional<Zeitspanne>& fenster = {});
+                                             Protokoll& protokoll, const std::optional<Zeitspanne>& fenster = {},
+                                             Systeme systeme = Systeme::gps);
 
 /// A plausible place on the ground: between 6300 and 6450 km from the earth's centre.
 bool ist_erdort(const Xyz& ort);
@@ -35,7 +37,12 @@ std::vector<std::string> stationsdateien(const std::vector<std::string>& alle, s
 /// The station's observations inside the span (an interval of its own wider at both ends), joined from as many of the
 /// files as are needed. Nothing when none holds any.
 std::optional<Beobachtungsdatei> station_lesen(const Arbeitsordner& ordner, const std::vector<std::string>& dateien,
-                                               const Zeitspanne& spanne, Protokoll& protokoll);
+                                               const Zeitspanne& spanne, Protokoll& protokoll,
+                                               Systeme systeme = Systeme::gps);
+
+/// The GLONASS sets beside all stems; nothing when none has any.
+Glonassnavigation glonass_suchen(const Arbeitsordner& ordner, const std::vector<std::string>& beobachtungsdateien,
+                                 Protokoll& protokoll);
 
 /// GPS navigation: of the first stem that has a file, or of all stems when `alle` is set; without any, every
 /// navigation file of the folder for the year of the last name.

@@ -32,11 +32,10 @@ Verschieber::Verschieber(const Ort& von, const Ort& nach, Troposphaerenmodell mo
 {
 }
 
-Verschiebung Verschieber::rechnen(const Ephemeride& eph, double code) const
+// One orbit serves all instants here: they lie within the satellite's clock error and the difference of the two travel
+// times, both under a few milliseconds.
+Verschiebung Verschieber::rechnen(const Satellitenlage& lage, double code) const
 {
-    // One orbit serves all instants here: they lie within the satellite's clock error and the difference of the two
-    // travel times, both under a few milliseconds.
-    const Satellitenlage lage = satellitenlage(eph, verschoben(m_zeitmarke, -code / LICHT));
     const Xyz sendung = lage.nach(-lage.uhr);
     const double dauer_von = laufzeit_suchen(
         code / LICHT, [&](double dauer) { return laenge(gedreht(sendung, dauer) - m_von.xyz) / LICHT; });

@@ -3,6 +3,7 @@
 // of reception and the difference of the tropospheric delays.
 
 #include "suite/bahn.h"
+#include "suite/glonass.h"
 #include "suite/troposphaere.h"
 
 namespace jorv::suite {
@@ -21,7 +22,14 @@ public:
     /// The shift for a code in metres. The code carries the receiver's clock, so transmission and true reception come
     /// out right whatever that clock does; both places receive at the same true instant, hence from two slightly
     /// different places of the satellite.
-    Verschiebung rechnen(const Ephemeride& eph, double code) const;
+    Verschiebung rechnen(const Ephemeride& eph, double code) const
+    {
+        return rechnen(satellitenlage(eph, sendezeit(code)), code);
+    }
+    Verschiebung rechnen(const Glonasssatz& satz, double code) const
+    {
+        return rechnen(satellitenlage(satz, sendezeit(code)), code);
+    }
 
 private:
     Verschieber(const Ort& von, const Ort& nach, Troposphaerenmodell modell, const GpsZeit& zeitmarke, double tag)
@@ -32,6 +40,9 @@ private:
           m_luft_nach(modell, nach.blh, tag)
     {
     }
+
+    GpsZeit sendezeit(double code) const { return verschoben(m_zeitmarke, -code / LICHT); }
+    Verschiebung rechnen(const Satellitenlage& lage, double code) const;
 
     const Ort &m_von, &m_nach;
     GpsZeit m_zeitmarke;

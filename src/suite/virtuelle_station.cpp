@@ -25,7 +25,7 @@ constexpr std::string_view HERKUNFT_NETZ = "NETZ";
 constexpr double NETZLUECKEN = 0.4;  // share of the observations that a network may cost
 
 struct Statistik {
-    std::size_t ohne_bahn = 0, ohne_code = 0, unter_maske = 0, ohne_netz = 0;
+    std::size_t ohne_bahn = 0, ohne_code = 0, unter_maske = 0, ohne_netz = 0, glonass = 0;
     double groesste = 0.0, kleinste = 0.0;
 };
 
@@ -63,15 +63,22 @@ double code(const Messung& m)
     return 0.0;
 }
 
-void verschieben(Messung& m, double strecke)
+/// The shift of an observation and the frequencies of its phases.
+struct Bewegt {
+    Verschiebung um;
+    double frequenz1 = FREQUENZ1, frequenz2 = FREQUENZ2;
+};
+
+void verschieben(Messung& m, const Bewegt& bewegt)
 {
+    const double strecke = bewegt.um.strecke;
     const auto dazu = [&](Art art, double betrag) {
         double& wert = m.wert[static_cast<std::size_t>(art)];
         if (wert != 0.0) wert += betrag;
     };
     for (const Art art : {Art::C1, Art::P1, Art::C2, Art::P2}) dazu(art, strecke);
-    dazu(Art::L1, strecke * FREQUENZ1 / LICHT);
-    dazu(Art::L2, strecke * FREQUENZ2 / LICHT);
+    dazu(Art::L1, strecke * bewegt.frequenz1 / LICHT);
+    dazu(Art::L2, strecke * bewegt.frequenz2 / LICHT);
 }
 
 void verbessern(Messung& m, const Korrektur& k)
@@ -100,7 +107,10 @@ private:
     void modell_ablegen(const Netz& netz);
     void netz_benutzen(const RinexBeobachtung& daten);
     std::optional<Beobachtungsdatei> master_lesen();
+    void glonass_bereitstellen();
     bool navigation_bereitstellen();
+    std::optional<Bewegt> bewegt(const Verschieber& verschieber, const Messung& m, const GpsZeit& zeit,
+                                 double strecke) const;
     void uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach);
     void kopf_setzen(RinexBeobachtung& daten, const Ort& nach);
     bool ausgeben(const RinexBeobachtung& daten);
@@ -122,6 +132,7 @@ private:
     std::vector<Netzstation> m_stationen;  // by distance, from the master on
     Navigation m_navigation;
     Bahnen m_bahnen;
+    Glonassnavigation m_glonass;
     std::optional<Netz> m_netz;
     Statistik m_statistik;
 };
@@ -178,15 +189,24 @@ std::optional<Beobachtungsdatei> Lauf::master_lesen()
     m_stationen = kandidaten();
     for (const Netzstation& k : m_stationen)
         m_protokoll.zeile(verkettet("Station          ", k.name, ", ", fest(k.strecke / 1000.0, 3), " km"));
+    glonass_bereitstellen();
+    const Systeme systeme = m_glonass.saetze.empty() ? Systeme::gps : Systeme::gps_glonass;
     while (!m_stationen.empty()) {
         m_master = m_stationen.front();
-        auto daten = station_lesen(m_ordner, m_master.dateien, m_spanne, m_protokoll);
+        auto daten = station_lesen(m_ordner, m_master.dateien, m_spanne, m_protokoll, systeme);
         if (daten) return daten;
         m_protokoll.warnung(verkettet("Die Station ", m_master.name, " hat im Zeitraum nicht beobachtet."));
         m_stationen.erase(m_stationen.begin());
     }
     m_protokoll.fehler("Keine Referenzstation mit Beobachtungen im Zeitraum!");
     return {};
+}
+
+void Lauf::glonass_bereitstellen()
+{
+    std::vector<std::string> dateien = {m_aufruf.rover};
+    for (const Netzstation& k : m_stationen) dateien.insert(dateien.end(), k.dateien.begin(), k.dateien.end());
+    m_glonass = glonass_suchen(m_ordner, dateien, m_protokoll);
 }
 
 bool Lauf::navigation_bereitstellen()
@@ -202,6 +222,22 @@ bool Lauf::navigation_bereitstellen()
     return true;
 }
 
+// Nothing for a satellite without an orbit.
+std::optional<Bewegt> Lauf::bewegt(const Verschieber& verschieber, const Messung& m, const GpsZeit& zeit,
+                                   double strecke) const
+{
+    if (m.satellit > GLONASS) {
+        const Glonasssatz* satz = passender_satz(m_glonass.saetze, m.satellit, zeit);
+        if (!satz) return {};
+        return Bewegt{verschieber.rechnen(*satz, strecke), glonass_frequenz1(satz->kanal),
+                      glonass_frequenz2(satz->kanal)};
+    }
+    const auto saetze = m_bahnen.find(m.satellit);
+    const Ephemeride* eph = saetze == m_bahnen.end() ? nullptr : passende_ephemeride(saetze->second, m.satellit, zeit);
+    if (!eph) return {};
+    return Bewegt{verschieber.rechnen(*eph, strecke)};
+}
+
 void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
 {
     const double maske = m_aufruf.elevation * GRAD;
@@ -211,17 +247,19 @@ void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
         const std::size_t erste = behalten;
         for (std::size_t i = 0; i < e.anzahl; ++i) {
             Messung m = daten.messungen[e.erste + i];
+            // The network knows GPS alone, and what it doesn't correct would spoil what it does.
+            if (m.satellit > GLONASS && m_netz) continue;
             const double strecke = code(m);
-            const Ephemeride* eph = passende_ephemeride(m_bahnen[m.satellit], m.satellit, e.zeit);
+            const auto neu = strecke == 0.0 ? std::nullopt : bewegt(verschieber, m, e.zeit, strecke);
             m_statistik.ohne_code += strecke == 0.0;
-            m_statistik.ohne_bahn += strecke != 0.0 && !eph;
-            if (strecke == 0.0 || !eph) continue;
-            const Verschiebung v = verschieber.rechnen(*eph, strecke);
-            m_statistik.unter_maske += v.elevation < maske;
-            if (v.elevation < maske) continue;
-            m_statistik.groesste = std::max(m_statistik.groesste, v.strecke);
-            m_statistik.kleinste = std::min(m_statistik.kleinste, v.strecke);
-            verschieben(m, v.strecke);
+            m_statistik.ohne_bahn += strecke != 0.0 && !neu;
+            if (!neu) continue;
+            m_statistik.unter_maske += neu->um.elevation < maske;
+            if (neu->um.elevation < maske) continue;
+            m_statistik.groesste = std::max(m_statistik.groesste, neu->um.strecke);
+            m_statistik.kleinste = std::min(m_statistik.kleinste, neu->um.strecke);
+            m_statistik.glonass += m.satellit > GLONASS;
+            verschieben(m, *neu);
             if (m_netz) {
                 const Korrektur* k = korrektur_suchen(m_netz->korrekturen, auf_sekunde(e.zeit).sekunde, m.satellit);
                 m_statistik.ohne_netz += !k;
@@ -293,6 +331,9 @@ bool Lauf::ausgeben(const RinexBeobachtung& daten)
         return abbruch(verkettet("Die Datei ", nav, " konnte nicht geschrieben werden!"));
     if (!m_ordner.schreiben(name, text))
         return abbruch(verkettet("Die Datei ", name, " konnte nicht geschrieben werden!"));
+    const std::string gnav = mit_art(name, 'g');
+    if (m_statistik.glonass > 0 && !m_ordner.schreiben(gnav, glonass_text(m_glonass)))
+        return abbruch(verkettet("Die Datei ", gnav, " konnte nicht geschrieben werden!"));
     m_protokoll.meldung(verkettet("Virtuelle Station ", name, " aus ", m_master.name, " (",
                                   fest(m_master.strecke / 1000.0, 3), " km)",
                                   m_netz ? verkettet(" im Netz mit ", m_netz->stationen.size(), " Stationen") : "",
@@ -312,7 +353,8 @@ void Lauf::berichten(const RinexBeobachtung& daten)
             verkettet("  im Netz mit   ", namen, ", ohne Korrektur weggelassen: ", m_statistik.ohne_netz));
     }
     m_protokoll.zeile(verkettet("  Epochen        ", daten.epochen.size()));
-    m_protokoll.zeile(verkettet("  Beobachtungen  ", daten.messungen.size()));
+    m_protokoll.zeile(verkettet("  Beobachtungen  ", daten.messungen.size(),
+                                m_statistik.glonass > 0 ? verkettet(", davon GLONASS ", m_statistik.glonass) : ""));
     m_protokoll.zeile(verkettet("  unter ", m_aufruf.elevation, " Grad weggelassen: ", m_statistik.unter_maske));
     m_protokoll.zeile(verkettet("  ohne Bahn      ", m_statistik.ohne_bahn, ", ohne Code ", m_statistik.ohne_code));
     m_protokoll.zeile(
@@ -364,7 +406,7 @@ int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, 
     protokoll.zeile(verkettet(PROGRAMM, "  Virtuelle Referenzstation  ", datum_text(uhr.jetzt())));
     protokoll.zeile();
     bool gut = true;
-    for (const char art : {'o', 'n'}) {
+    for (const char art : {'o', 'n', 'g'}) {
         const std::string alt = mit_art(verkettet(aufruf.virt, rechts(aufruf.rover, 4)), art);
         gut = gut && ordner.loeschen(alt);
     }

@@ -27,8 +27,9 @@ struct Herkunft {
 std::string herkunft_text(const Herkunft& herkunft);
 std::optional<Herkunft> herkunft_lesen(std::string_view kommentar);
 
-/// Does the whole work: <virt>.<yyo>, <virt>.<yyn> and the protocol file in the folder. Exit status 0, or 1 when there
-/// is no virtual station; then the reason is in the protocol and no observation or navigation file is left.
+/// Does the whole work: <virt>.<yyo>, <virt>.<yyn> and the protocol file in the folder, with GLONASS in the
+/// observations of a station without network also <virt>.<yyg>. Exit status 0, or 1 when there is no virtual station;
+/// then the reason is in the protocol and no observation or navigation file is left.
 int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll);
 
 }  // namespace jorv::suite

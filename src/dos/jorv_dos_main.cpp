@@ -11,6 +11,7 @@
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
+#include "plattform/zeitgrenze.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ using namespace jorv;
 constexpr std::string_view aufruf =
     u8"Aufruf: jorv-dos [--frist SEKUNDEN] [--statt ORDNER] DATEI.BAT [ARGUMENT...]\r\n"
     "Führt eine Batchdatei aus. DATEI.BAT ist ein Pfad dieses Rechners oder ein DOS-Pfad (Z:\\...).\r\n"
-    "--frist  so lange darf ein gestartetes Programm laufen (600)\r\n"
+    "--frist  so lange darf ein gestartetes Programm laufen (JORV_FRIST, sonst 600)\r\n"
     "--statt  ein Ordner dieses Rechners, der an die Stelle des Ordners von DATEI.BAT tritt: Unter dessen Pfad\r\n"
     "         liest und schreibt die Batchdatei alles dort, auch sie selbst liegt dort\r\n"_w;
 
@@ -27,7 +28,7 @@ struct Auftrag {
     std::string datei;  // UTF-8
     std::string statt;  // ... empty: none
     std::vector<std::string> argumente;
-    std::chrono::seconds frist{600};
+    std::chrono::seconds frist = zeitgrenze();
 };
 
 bool option_lesen(Auftrag& auftrag, std::string_view option, const std::string& wert)

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,12 +21,17 @@ namespace jorv {
 bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile,
                     const std::function<void()>& atmen = {});
 
+class Kind;
+struct Prozessaufrufe;
+
 /// A batch file that runs beside the program. Linux only: elsewhere none starts.
 class Batchlauf {
 public:
     /// Starts it as `prozess_warten` does. `statt`, a folder of the host, stands in the place of the folder that the
-    /// batch file's path names: file and outputs lie there, the batch sees them under the path.
-    Batchlauf(const Dateisystem& dateien, std::string_view pfad, const std::filesystem::path& statt = {});
+    /// batch file's path names: file and outputs lie there, the batch sees them under the path. `aufrufe`: other system
+    /// calls than those of the system at hand.
+    Batchlauf(const Dateisystem& dateien, std::string_view pfad, const std::filesystem::path& statt = {},
+              const Prozessaufrufe* aufrufe = nullptr);
     Batchlauf(Batchlauf&& anderer) noexcept;
     Batchlauf& operator=(Batchlauf&&) = delete;
     /// A batch that still runs is ended, and the program that it waits for.
@@ -37,8 +43,7 @@ public:
     bool laeuft();
 
 private:
-    long m_nummer = -1;
-    int m_ende = -1;  // becomes readable when the process has ended
+    std::shared_ptr<Kind> m_kind;  // while it runs
     bool m_gestartet = false;
 };
 

@@ -1,25 +1,16 @@
-#include <fcntl.h>
 #include <poll.h>
-#include <signal.h>
-#include <spawn.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <chrono>
-#include <thread>
-#include <utility>
 
 #include "plattform/pfad.h"
 #include "plattform/prozess.h"
+#include "plattform/prozess_linux.h"
 #include "plattform/text.h"
 #include "plattform/umgebung.h"
-
-extern char** environ;
 
 namespace jorv {
 
@@ -28,64 +19,6 @@ namespace fs = std::filesystem;
 namespace {
 
 using Millisekunden = std::chrono::milliseconds;
-
-// One started child; standard input and output are the null device.
-struct Kind {
-    pid_t nummer = -1;
-    int ende = -1;  // becomes readable when the child has ended
-};
-
-Kind starten(const fs::path& programm, const std::vector<std::string>& argumente, const fs::path& ordner,
-             int fehlerausgabe)
-{
-    posix_spawn_file_actions_t schritte;
-    posix_spawn_file_actions_init(&schritte);
-    posix_spawn_file_actions_addopen(&schritte, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&schritte, 1, "/dev/null", O_WRONLY, 0);
-    if (fehlerausgabe >= 0)
-        posix_spawn_file_actions_adddup2(&schritte, fehlerausgabe, 2);
-    else
-        posix_spawn_file_actions_addopen(&schritte, 2, "/dev/null", O_WRONLY, 0);
-    if (!ordner.empty()) posix_spawn_file_actions_addchdir_np(&schritte, ordner.c_str());
-    posix_spawnattr_t eigenschaften;
-    posix_spawnattr_init(&eigenschaften);
-    posix_spawnattr_setflags(&eigenschaften, POSIX_SPAWN_SETPGROUP);
-    posix_spawnattr_setpgroup(&eigenschaften, 0);
-    std::string name = programm.string();
-    std::vector<std::string> kopien = argumente;
-    std::vector<char*> worte{name.data()};
-    for (auto& wort : kopien) worte.push_back(wort.data());
-    worte.push_back(nullptr);
-    Kind kind;
-    if (posix_spawn(&kind.nummer, name.c_str(), &schritte, &eigenschaften, worte.data(), environ) != 0)
-        kind.nummer = -1;
-    posix_spawn_file_actions_destroy(&schritte);
-    posix_spawnattr_destroy(&eigenschaften);
-    if (kind.nummer > 0) kind.ende = static_cast<int>(::syscall(SYS_pidfd_open, kind.nummer, 0));
-    return kind;
-}
-
-int einsammeln(const Kind& kind)
-{
-    int status = 0;
-    while (::waitpid(kind.nummer, &status, 0) < 0 && errno == EINTR) {
-    }
-    if (kind.ende >= 0) ::close(kind.ende);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-}
-
-// True when the child has ended within the time.
-bool warten(const Kind& kind, Millisekunden zeit)
-{
-    if (kind.ende < 0) {
-        std::this_thread::sleep_for(zeit);
-        siginfo_t auskunft{};
-        return ::waitid(P_PID, static_cast<id_t>(kind.nummer), &auskunft, WEXITED | WNOHANG | WNOWAIT) != 0 ||
-               auskunft.si_pid != 0;
-    }
-    pollfd frage{kind.ende, POLLIN, 0};
-    return ::poll(&frage, 1, static_cast<int>(zeit.count())) > 0;
-}
 
 constexpr off_t groesste_ausgabe = 64 << 20;  // a child that writes without end must not fill the memory
 
@@ -104,13 +37,26 @@ std::string ausgabe_anfang(int ausgabe)
     return text;
 }
 
+// At most a second, so that what the child writes is looked at now and then.
+Millisekunden rest_bis(std::chrono::steady_clock::time_point schluss)
+{
+    const auto rest = std::chrono::ceil<Millisekunden>(schluss - std::chrono::steady_clock::now());
+    return std::clamp(rest, Millisekunden(0), Millisekunden(1000));
+}
+
 }  // namespace
 
 bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile, const std::function<void()>& atmen)
 {
+    return prozess_warten(Prozessaufrufe::echte(), dateien, kommandozeile, atmen);
+}
+
+bool prozess_warten(const Prozessaufrufe& aufrufe, const Dateisystem& dateien, std::string_view kommandozeile,
+                    const std::function<void()>& atmen)
+{
     std::string_view pfad = trimmen(kommandozeile);
     if (pfad.starts_with('"')) pfad = pfad.substr(1, pfad.find('"', 1) - 1);
-    Batchlauf lauf(dateien, pfad);
+    Batchlauf lauf(dateien, pfad, {}, &aufrufe);
     Batchlauf* const einer = &lauf;
     while (lauf.laeuft()) {
         Batchlauf::abwarten({&einer, 1}, Millisekunden(20));
@@ -119,38 +65,32 @@ bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile, 
     return lauf.gestartet();
 }
 
-Batchlauf::Batchlauf(const Dateisystem& dateien, std::string_view pfad, const fs::path& statt)
+Batchlauf::Batchlauf(const Dateisystem& dateien, std::string_view pfad, const fs::path& statt,
+                     const Prozessaufrufe* aufrufe)
 {
-    const fs::path interpreter = programm_finden("jorv-dos");
-    if (interpreter.empty()) return;
-    std::vector<std::string> argumente = {utf8_aus_1252(pfad)};
-    if (!statt.empty()) argumente.insert(argumente.begin(), {"--statt", statt.string()});
-    const Kind kind = starten(interpreter, argumente, statt.empty() ? dateien.host(pfad_ordner(pfad)) : statt, -1);
-    m_nummer = kind.nummer;
-    m_ende = kind.ende;
-    m_gestartet = kind.nummer > 0;
+    Kindauftrag auftrag{programm_finden("jorv-dos"), {utf8_aus_1252(pfad)}};
+    if (auftrag.programm.empty()) return;
+    if (!statt.empty()) auftrag.argumente.insert(auftrag.argumente.begin(), {"--statt", statt.string()});
+    auftrag.ordner = statt.empty() ? dateien.host(pfad_ordner(pfad)) : statt;
+    m_kind = std::make_shared<Kind>(aufrufe ? *aufrufe : Prozessaufrufe::echte(), auftrag);
+    m_gestartet = m_kind->gestartet();
+    if (!m_gestartet) m_kind.reset();
 }
 
-Batchlauf::Batchlauf(Batchlauf&& anderer) noexcept
-    : m_nummer(std::exchange(anderer.m_nummer, -1)),
-      m_ende(std::exchange(anderer.m_ende, -1)),
-      m_gestartet(anderer.m_gestartet)
-{
-}
+Batchlauf::Batchlauf(Batchlauf&&) noexcept = default;
 
 Batchlauf::~Batchlauf()
 {
-    if (!laeuft()) return;
-    ::kill(static_cast<pid_t>(m_nummer), SIGTERM);  // the interpreter ends its program first
-    einsammeln({static_cast<pid_t>(m_nummer), m_ende});
+    constexpr Millisekunden gnade(1500);  // the interpreter ends its program first
+    if (laeuft() && m_kind->gruppe_beenden(gnade)) m_kind->einsammeln();
 }
 
 void Batchlauf::abwarten(std::span<Batchlauf* const> laeufe, Millisekunden hoechstens)
 {
     std::vector<pollfd> fragen;
     for (const Batchlauf* lauf : laeufe) {
-        if (lauf->m_nummer <= 0) return;
-        if (lauf->m_ende >= 0) fragen.push_back({lauf->m_ende, POLLIN, 0});
+        if (!lauf->m_kind) return;
+        if (lauf->m_kind->melder() >= 0) fragen.push_back({lauf->m_kind->melder(), POLLIN, 0});
     }
     // Without a descriptor for each the end shows only by asking again and again.
     if (fragen.size() < laeufe.size()) hoechstens = std::min(hoechstens, Millisekunden(2));
@@ -159,35 +99,39 @@ void Batchlauf::abwarten(std::span<Batchlauf* const> laeufe, Millisekunden hoech
 
 bool Batchlauf::laeuft()
 {
-    if (m_nummer <= 0) return false;
-    if (!warten({static_cast<pid_t>(m_nummer), m_ende}, Millisekunden(0))) return true;
-    einsammeln({static_cast<pid_t>(m_nummer), m_ende});
-    m_nummer = m_ende = -1;
+    if (!m_kind) return false;
+    if (!m_kind->warten(Millisekunden(0))) return true;
+    m_kind->einsammeln();
+    m_kind.reset();
     return false;
 }
 
 Prozessende programm_ausfuehren(const fs::path& programm, const std::vector<std::string>& argumente,
                                 const fs::path& ordner, int sekunden)
 {
+    return programm_ausfuehren(Prozessaufrufe::echte(), programm, argumente, ordner, sekunden);
+}
+
+Prozessende programm_ausfuehren(const Prozessaufrufe& aufrufe, const fs::path& programm,
+                                const std::vector<std::string>& argumente, const fs::path& ordner, int sekunden)
+{
     Prozessende ende;
     // Memory in place of a pipe: a child that writes hundreds of progress lines wakes nobody, one that leaves it open
     // holds nobody up.
     const int ausgabe = ::memfd_create("fehlerausgabe", MFD_CLOEXEC);
     if (ausgabe < 0) return ende;
-    const Kind kind = starten(programm, argumente, ordner, ausgabe);
-    if (kind.nummer >= 0) {
+    const Signalwache wache;
+    const sigset_t vorher = wache.vorher();
+    Kind kind(aufrufe, {programm, argumente, ordner, {}, {-1, -1, ausgabe}, &vorher, SIGKILL});
+    if (kind.gestartet()) {
         ende.gestartet = true;
         const auto schluss = std::chrono::steady_clock::now() + std::chrono::seconds(sekunden);
-        const Millisekunden schritt(kind.ende < 0 ? 20 : 1000);
-        for (bool lebt = true; lebt;) {
-            const auto rest = std::chrono::duration_cast<Millisekunden>(schluss - std::chrono::steady_clock::now());
-            ende.zeit_abgelaufen = rest.count() <= 0;
-            if (ende.zeit_abgelaufen) break;
-            lebt = !warten(kind, std::min(rest, schritt));
+        while (!kind.warten(rest_bis(schluss), &wache)) {
+            ende.zeit_abgelaufen = std::chrono::steady_clock::now() >= schluss;
+            if (ende.zeit_abgelaufen || wache.eines_wartet()) break;
             if (ausgabe_laenge(ausgabe) > groesste_ausgabe) (void)!::ftruncate(ausgabe, 0);
         }
-        ::kill(-kind.nummer, SIGKILL);
-        ende.status = einsammeln(kind);
+        if (kind.gruppe_beenden()) ende.status = kind.einsammeln();
         ende.fehlerausgabe = ausgabe_anfang(ausgabe);
     }
     ::close(ausgabe);

@@ -37,7 +37,7 @@ bool prozess_warten(const Dateisystem& dateien, std::string_view kommandozeile, 
 }
 
 // The system's own interpreter can't stand one folder in another's place.
-Batchlauf::Batchlauf(const Dateisystem&, std::string_view, const fs::path&) {}
+Batchlauf::Batchlauf(const Dateisystem&, std::string_view, const fs::path&, const Prozessaufrufe*) {}
 Batchlauf::Batchlauf(Batchlauf&&) noexcept = default;
 Batchlauf::~Batchlauf() = default;
 void Batchlauf::abwarten(std::span<Batchlauf* const>, std::chrono::milliseconds) {}

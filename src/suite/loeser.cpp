@@ -106,12 +106,28 @@ std::string letzte_meldung(std::string_view fehlerausgabe)
     return text;
 }
 
+constexpr std::string_view ORDNERNAME = "jorv-wa2-";
+
+// Folders of programs that were killed: they may lie in the memory.
+void reste_wegraeumen(const fs::path& wo)
+{
+    std::error_code fehler;
+    for (const auto& eintrag : fs::directory_iterator(wo, fehler)) {
+        const std::string name = eintrag.path().filename().string();
+        if (!name.starts_with(ORDNERNAME)) continue;
+        const auto kennung =
+            ganz_streng(name.substr(ORDNERNAME.size(), name.find('-', ORDNERNAME.size()) - ORDNERNAME.size()));
+        if (kennung && !prozess_lebt(*kennung)) fs::remove_all(eintrag.path(), fehler);
+    }
+}
+
 fs::path neuer_ordner(const fs::path& wo)
 {
+    reste_wegraeumen(wo);
     std::random_device zufall;
     std::error_code fehler;
     for (int versuch = 0; versuch < 100; ++versuch) {
-        const fs::path pfad = wo / verkettet("jorv-wa2-", static_cast<long long>(zufall()));
+        const fs::path pfad = wo / verkettet(ORDNERNAME, prozess_kennung(), "-", static_cast<long long>(zufall()));
         if (!fs::create_directory(pfad, fehler)) continue;
         fs::permissions(pfad, fs::perms::owner_all, fehler);
         return pfad;
@@ -170,7 +186,10 @@ std::string optionsdatei(const Loeserauftrag& auftrag, Laufart art)
     return o.text();
 }
 
-Loeser::Loeser(const Loeserumgebung& umgebung, const Loeserauftrag& auftrag) : m_umgebung(umgebung), m_auftrag(auftrag)
+Loeser::Loeser(const Loeserumgebung& umgebung, const Loeserauftrag& auftrag)
+    : m_umgebung(umgebung),
+      m_auftrag(auftrag),
+      m_schluss(std::chrono::steady_clock::now() + std::chrono::seconds(umgebung.sekunden))
 {
     if (umgebung.programm.empty()) {
         m_hindernis = "Das Rechenprogramm rnx2rtkp wurde nicht gefunden (Debian-Paket rtklib)!";
@@ -237,13 +256,15 @@ Loeserlauf Loeser::rechnen(Laufart art) const
                                       zeitwort(m_auftrag.bis, 0.02)};
     if (m_auftrag.takt > 0) worte.insert(worte.end(), {"-ti", fest(m_auftrag.takt, 3)});
     worte.insert(worte.end(), {"-o", "o.pos", "rover.obs", "base.obs", "brdc.nav"});
-    const Prozessende ende = programm_ausfuehren(m_umgebung.programm, worte, m_ordner, m_umgebung.sekunden);
+    const auto rest = std::chrono::ceil<std::chrono::seconds>(m_schluss - std::chrono::steady_clock::now()).count();
+    const int sekunden = static_cast<int>(std::max<std::int64_t>(1, rest));
+    const Prozessende ende = programm_ausfuehren(m_umgebung.programm, worte, m_ordner, sekunden);
     lauf.fehlerausgabe = letzte_meldung(ende.fehlerausgabe);
     lauf.zeit_abgelaufen = ende.zeit_abgelaufen;
     if (!ende.gestartet)
         lauf.fehler = "Das Rechenprogramm konnte nicht gestartet werden";
     else if (ende.zeit_abgelaufen)
-        lauf.fehler = verkettet("Das Rechenprogramm wurde nach ", m_umgebung.sekunden, " s abgebrochen");
+        lauf.fehler = verkettet("Das Rechenprogramm wurde nach ", sekunden, " s abgebrochen");
     else if (ende.status != 0)
         lauf.fehler = verkettet("Das Rechenprogramm endete mit Status ", ende.status);
     if (!lauf.fehler.empty()) return lauf;

@@ -3,6 +3,7 @@
 // file, no shell, a time limit. The solver's exit status says nothing; whether there is a solution shows in its files
 // alone.
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -42,8 +43,8 @@ std::string optionsdatei(const Loeserauftrag& auftrag, Laufart art);
 
 /// Where the solver is and how long it may take.
 struct Loeserumgebung {
-    std::filesystem::path programm;  // empty: not found
-    int sekunden = 600;
+    std::filesystem::path programm;             // empty: not found
+    int sekunden = 540;                         // all runs of one solver together
     std::filesystem::path zwischenordner = {};  // empty: chosen by the size of the files
 };
 
@@ -72,6 +73,7 @@ private:
 
     const Loeserumgebung& m_umgebung;
     const Loeserauftrag& m_auftrag;
+    std::chrono::steady_clock::time_point m_schluss;  // of all runs together
     std::filesystem::path m_ordner;
     std::string m_hindernis;
 };

@@ -5,7 +5,11 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <csignal>
+#include <fstream>
+
 #include "dos/probe.h"
+#include "plattform/kind_linux.h"
 #include "plattform/prozess.h"
 #include "plattform/text.h"
 
@@ -13,6 +17,18 @@ namespace jorv::dos::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+// A killed grandchild is reaped by the system's first process, which may take a moment.
+bool endet(pid_t nummer)
+{
+    for (int i = 0; i < 500; ++i) {
+        std::ifstream datei(verkettet("/proc/", nummer, "/stat"));
+        std::string zustand;
+        if (!std::getline(datei, zustand) || zustand.find(") Z") != std::string::npos) return true;
+        ::usleep(10000);
+    }
+    return false;
+}
 
 TEST(Programm, argumente_ordner_und_umgebung)
 {
@@ -115,21 +131,30 @@ TEST(Programm, frist_beendet_auch_enkel)
     const auto ausgang = probe.lauf("haengt\necho weiter");
     EXPECT_EQ(ausgang.aus, "weiter\r\n");
     EXPECT_THAT(ausgang.fehler, testing::HasSubstr("nach 1 Sekunden beendet"));
-    const pid_t enkel = std::stoi(probe.inhalt("enkel.txt"));
-    // The killed grandchild is reaped by the system's first process, which may take a moment.
-    bool fort = false;
-    for (int i = 0; i < 200 && !fort; ++i) {
-        const std::string zustand = [&] {
-            std::FILE* datei = std::fopen(verkettet("/proc/", enkel, "/stat").c_str(), "r");
-            char text[200] = "";
-            if (datei && !std::fgets(text, sizeof text, datei)) text[0] = '\0';
-            if (datei) std::fclose(datei);
-            return std::string(text);
-        }();
-        fort = zustand.empty() || zustand.find(") Z") != std::string::npos;
-        if (!fort) ::usleep(10000);
+    EXPECT_TRUE(endet(std::stoi(probe.inhalt("enkel.txt"))));
+}
+
+// However the interpreter is ended, the programs of the interpreter that its batch runs end too, with their children.
+TEST(Programm, niemand_ueberlebt_den_abbruch)
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGKILL}) {
+        if (signal != SIGKILL) ::signal(signal, SIG_DFL);
+        Probe probe;
+        probe.programm("haengt", "sleep 1000 & echo $! > neu.txt; mv neu.txt enkel.txt; wait");
+        probe.batch("innen.bat", "haengt\n");
+        probe.programm("weiter", "exec " JORV_PROGRAMME "/jorv-dos innen.bat");
+        probe.batch("aussen.bat", "weiter\n");
+        const std::string pfad = verkettet("PATH=", probe.ort("D:\\Hilfs programme").string(), ":/usr/bin:/bin");
+        Kind aussen(Prozessaufrufe::echte(),
+                    {JORV_PROGRAMME "/jorv-dos", {"aussen.bat"}, probe.ort("D:\\Prüf a b"), {pfad}});
+        ASSERT_TRUE(aussen.gestartet());
+        for (int i = 0; i < 500 && probe.inhalt("enkel.txt").empty(); ++i) ::usleep(10000);
+        const std::string enkel = probe.inhalt("enkel.txt");
+        ASSERT_FALSE(enkel.empty());
+        ::kill(aussen.nummer(), signal);
+        EXPECT_EQ(aussen.einsammeln(), 128 + signal);
+        EXPECT_TRUE(endet(std::stoi(enkel))) << signal;
     }
-    EXPECT_TRUE(fort);
 }
 
 TEST(Programm, suchpfad_des_rechners)

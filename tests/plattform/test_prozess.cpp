@@ -4,6 +4,7 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -11,6 +12,7 @@
 #include "hilfen/Projekt.h"
 #include "plattform/fensterstart.h"
 #include "plattform/pfad.h"
+#include "plattform/prozess_linux.h"
 #include "plattform/umgebung.h"
 
 namespace jorv {
@@ -58,6 +60,79 @@ TEST(Prozess, EinKindDasRohreOffenLaesstHaeltNichtAuf)
     const auto ende = programm_ausfuehren(skript(ordner, "sleep 30 & exit 3"), {}, ordner.host(), 20);
     EXPECT_EQ(ende.status, 3);
     EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(15));
+}
+
+namespace {
+
+// The real calls, each of which fails on demand.
+int scheitert_mit = 0, unterbrechungen = 0;
+
+int gescheitert()
+{
+    errno = scheitert_mit;
+    return -1;
+}
+
+Prozessaufrufe echte_bis_auf(void (*aendern)(Prozessaufrufe&))
+{
+    Prozessaufrufe aufrufe = Prozessaufrufe::echte();
+    aendern(aufrufe);
+    return aufrufe;
+}
+
+const Prozessaufrufe kein_start = echte_bis_auf([](auto& a) { a.starten = [](const auto&) { return gescheitert(); }; });
+
+}  // namespace
+
+TEST(Prozess, EinStartDerScheitertIstKeinKind)
+{
+    const hilfen::Arbeitsordner ordner;
+    for (const int grund : {EAGAIN, ENOENT, ENOMEM}) {
+        scheitert_mit = grund;
+        EXPECT_FALSE(programm_ausfuehren(kein_start, "/bin/true", {}, ordner.host(), 10).gestartet) << grund;
+        EXPECT_FALSE(prozess_warten(kein_start, Dateisystem(), ordner.dos() + "\\a.bat")) << grund;
+    }
+    // Before the program runs: its folder is missing, it is no program, it may not be run.
+    EXPECT_FALSE(programm_ausfuehren("/bin/true", {}, ordner.host() / "fehlt", 10).gestartet);
+    const fs::path datei = skript(ordner, "exit 0");
+    fs::permissions(datei, fs::perms::owner_read);
+    EXPECT_FALSE(programm_ausfuehren(datei, {}, ordner.host(), 10).gestartet);
+}
+
+TEST(Prozess, GescheiterteAufrufeHaltenNichtAuf)
+{
+    const hilfen::Arbeitsordner ordner;
+    const struct {
+        const char* was;
+        Prozessaufrufe aufrufe;
+        std::string kind;
+        int status;
+    } faelle[] = {
+        {"no descriptor", echte_bis_auf([](auto& a) { a.melder = [](pid_t) { return gescheitert(); }; }), "exit 7", 7},
+        {"wait interrupted", echte_bis_auf([](auto& a) {
+             a.warten = [](pid_t kind, int* status, int arten) {
+                 return ++unterbrechungen < 5 ? gescheitert() : Prozessaufrufe::echte().warten(kind, status, arten);
+             };
+         }),
+         "exit 7", 7},
+        {"collected by another",
+         echte_bis_auf([](auto& a) { a.warten = [](pid_t, int*, int) { return errno = ECHILD, -1; }; }), "exit 7", -1},
+        {"can't be ended", echte_bis_auf([](auto& a) { a.beenden = [](pid_t, int) { return gescheitert(); }; }),
+         "exec sleep 5", -1},
+        {"its group can't be ended", echte_bis_auf([](auto& a) {
+             a.beenden = [](pid_t wer, int signal) {
+                 return wer < 0 ? gescheitert() : Prozessaufrufe::echte().beenden(wer, signal);
+             };
+         }),
+         "exec sleep 60", 128 + SIGKILL}};
+    scheitert_mit = EINTR;
+    for (const auto& fall : faelle) {
+        const auto beginn = std::chrono::steady_clock::now();
+        const auto ende = programm_ausfuehren(fall.aufrufe, skript(ordner, fall.kind), {}, ordner.host(), 1);
+        EXPECT_TRUE(ende.gestartet) << fall.was;
+        EXPECT_EQ(ende.status, fall.status) << fall.was;
+        EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(4)) << fall.was;
+    }
 }
 
 TEST(Fensterstart, DerEditorIstDerEigeneEinPfadOderEinName)

@@ -37,6 +37,15 @@ fs::path aus_utf8(const std::string& text)
     return fs::path(reinterpret_cast<const char8_t*>(text.c_str()));
 }
 
+// A call that a signal has interrupted is made again.
+template <typename Aufruf>
+auto ungestoert(Aufruf aufruf)
+{
+    auto ergebnis = aufruf();
+    while (ergebnis < 0 && errno == EINTR) ergebnis = aufruf();
+    return ergebnis;
+}
+
 fs::path link_ziel(const fs::path& pfad)
 {
     std::error_code fehler;
@@ -111,7 +120,7 @@ Gelesen Dateisystem::lesen_stufenweise(std::string_view pfad, std::size_t hoechs
         errno = ort && fs::is_directory(*ort, fehler) ? EISDIR : ENOENT;
         return {};
     }
-    const int nummer = m_aufrufe->oeffnen(utf8(*ort).c_str(), O_RDONLY, 0);
+    const int nummer = ungestoert([&] { return m_aufrufe->oeffnen(utf8(*ort).c_str(), O_RDONLY, 0); });
     if (nummer < 0) return {};
     Gelesen gelesen{"", Dateistufe::gut};
     std::string& text = gelesen.text;
@@ -121,11 +130,7 @@ Gelesen Dateisystem::lesen_stufenweise(std::string_view pfad, std::size_t hoechs
     while (text.size() < hoechstens) {
         const std::size_t alt = text.size();
         text.resize(alt + std::max<std::size_t>(platz, 1));
-        const long n = m_aufrufe->lesen(nummer, text.data() + alt, text.size() - alt);
-        if (n < 0 && errno == EINTR) {
-            text.resize(alt);
-            continue;
-        }
+        const long n = ungestoert([&] { return m_aufrufe->lesen(nummer, text.data() + alt, text.size() - alt); });
         if (n < 0) fehlernummer = errno;
         text.resize(alt + static_cast<std::size_t>(std::max(n, 0L)));
         if (n <= 0) break;
@@ -153,15 +158,13 @@ Abbild Dateisystem::abbilden(std::string_view pfad, std::error_code& fehler) con
 std::error_code Dateisystem::alles_schreiben(int nummer, std::string_view bytes, Dauer dauer) const
 {
     while (!bytes.empty()) {
-        const long n = m_aufrufe->schreiben(nummer, bytes.data(), bytes.size());
-        if (n < 0 && errno == EINTR) continue;
+        const long n = ungestoert([&] { return m_aufrufe->schreiben(nummer, bytes.data(), bytes.size()); });
         if (n < 0) return grund();
         if (n == 0) return std::make_error_code(std::errc::no_space_on_device);
         bytes.remove_prefix(static_cast<std::size_t>(n));
     }
-    while (dauer == Dauer::fest && m_aufrufe->sichern(nummer) != 0)
-        if (errno != EINTR) return grund();
-    return {};
+    const bool gut = dauer != Dauer::fest || ungestoert([&] { return m_aufrufe->sichern(nummer); }) == 0;
+    return gut ? std::error_code{} : grund();
 }
 
 std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view bytes, Dauer dauer,
@@ -191,13 +194,15 @@ std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view byt
         stufe = Dateistufe::schliessen;
     }
     if (!ergebnis && alt_da) fs::permissions(aus_utf8(neu), zustand.permissions(), fehler);
-    if (!ergebnis && m_aufrufe->umbenennen(neu.c_str(), utf8(ziel).c_str()) != 0) ergebnis = grund();
+    const auto umbenennen = [&] { return m_aufrufe->umbenennen(neu.c_str(), utf8(ziel).c_str()); };
+    if (!ergebnis && ungestoert(umbenennen) != 0) ergebnis = grund();
     if (ergebnis) {
-        m_aufrufe->loeschen(neu.c_str());
+        ungestoert([&] { return m_aufrufe->loeschen(neu.c_str()); });
         return ergebnis;
     }
     const fs::path ordner = ziel.parent_path().empty() ? fs::path(".") : ziel.parent_path();
-    if (dauer == Dauer::fest && m_aufrufe->ordner_sichern(utf8(ordner).c_str()) != 0) return grund();
+    const auto ordner_sichern = [&] { return m_aufrufe->ordner_sichern(utf8(ordner).c_str()); };
+    if (dauer == Dauer::fest && ungestoert(ordner_sichern) != 0) return grund();
     stufe = Dateistufe::gut;
     return {};
 }
@@ -227,7 +232,7 @@ std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view b
     if (!fs::exists(zustand)) return ersetzen(*ort, bytes, dauer, stufe);
     if (!fs::is_regular_file(zustand)) return std::make_error_code(std::errc::invalid_argument);
     const auto alte_laenge = fs::file_size(*ort, fehler);
-    const int nummer = m_aufrufe->oeffnen(utf8(*ort).c_str(), O_WRONLY | O_APPEND, 0);
+    const int nummer = ungestoert([&] { return m_aufrufe->oeffnen(utf8(*ort).c_str(), O_WRONLY | O_APPEND, 0); });
     if (nummer < 0) return grund();
     std::error_code ergebnis = alles_schreiben(nummer, bytes, dauer);
     if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) ergebnis = grund();
@@ -260,14 +265,16 @@ std::error_code Dateisystem::loeschen(std::string_view pfad) const
 #ifdef _WIN32
     fs::permissions(*ort, fs::perms::owner_write, fs::perm_options::add, fehler);
 #endif
-    return m_aufrufe->loeschen(utf8(*ort).c_str()) != 0 ? grund() : std::error_code{};
+    const auto aufruf = [&] { return m_aufrufe->loeschen(utf8(*ort).c_str()); };
+    return ungestoert(aufruf) != 0 ? grund() : std::error_code{};
 }
 
 std::error_code Dateisystem::host_verschieben(const fs::path& von, std::string_view nach) const
 {
     const auto ort = m_laufwerke.host(nach);
     if (!ort) return kein_laufwerk();
-    return m_aufrufe->umbenennen(utf8(von).c_str(), utf8(*ort).c_str()) != 0 ? grund() : std::error_code{};
+    const auto aufruf = [&] { return m_aufrufe->umbenennen(utf8(von).c_str(), utf8(*ort).c_str()); };
+    return ungestoert(aufruf) != 0 ? grund() : std::error_code{};
 }
 
 std::error_code Dateisystem::ordner_anlegen(std::string_view pfad) const
@@ -304,14 +311,14 @@ void Dateisystem::reste_wegraeumen(std::string_view ordner) const
 {
     const auto ort = m_laufwerke.host(ordner);
     if (!ort) return;
-    for (const auto& eintrag : ordner_lesen(ordner)) {
+    for (const auto& eintrag : Laufwerke::inhalt(*ort)) {
         const auto stelle = eintrag.name.rfind(marke);
         if (stelle == std::string::npos || !eintrag.name.starts_with('.')) continue;
         long kennung = 0;
         const char* beginn = eintrag.name.data() + stelle + marke.size();
         const auto [ende, fehler] = std::from_chars(beginn, eintrag.name.data() + eintrag.name.size(), kennung);
         if (fehler != std::errc{} || *ende != '-' || prozess_lebt(kennung)) continue;
-        const fs::path rest = *ort / aus_utf8(utf8_aus_1252(eintrag.name));
+        const fs::path rest = *ort / aus_utf8(eintrag.name);
         std::error_code ohne;
         if (eintrag.ordner)
             fs::remove_all(rest, ohne);

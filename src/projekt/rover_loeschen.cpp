@@ -36,15 +36,17 @@ bool bestaetigt(Global& g, std::string_view rover)
                                 Antwort::nein) == Antwort::ja;
 }
 
+Fehler datei_da(Global& g, std::string_view rover)
+{
+    if (g.dateien.ist_datei(im_Verfahren(g, rover))) return Fehler::keiner;
+    stop_melden(g, verkettet("Die ROVER-Datei: ", rover, "\nist nicht mehr im Verfahrensverzeichnis: ",
+                             g.Arbeitsverzeichnis, u8"\nvorhanden! Löschfunktion abgebrochen"_w));
+    return Fehler::gesetzt;
+}
+
 Fehler datei_loeschen(Global& g, std::string_view rover)
 {
-    const std::string pfad = im_Verfahren(g, rover);
-    if (!g.dateien.ist_datei(pfad)) {
-        stop_melden(g, verkettet("Die ROVER-Datei: ", rover, "\nist nicht mehr im Verfahrensverzeichnis: ",
-                                 g.Arbeitsverzeichnis, u8"\nvorhanden! Löschfunktion abgebrochen"_w));
-        return Fehler::gesetzt;
-    }
-    if (!g.dateien.loeschen(pfad)) return Fehler::keiner;
+    if (!g.dateien.loeschen(im_Verfahren(g, rover))) return Fehler::keiner;
     stop_melden(g,
                 verkettet("Die ROVER-Datei: ", rover, u8"\nkonnte nicht gelöscht werden! Löschfunktion abgebrochen"_w));
     return Fehler::gesetzt;
@@ -122,6 +124,80 @@ void letzte_schluessel_entfernen(Global& g)
                                      "konnt nicht fehlerfrei geschrieben werden!"));
 }
 
+// Everything that a removal takes rows out of, to be put back when it can't be finished.
+class Bestand {
+public:
+    explicit Bestand(const Global& g)
+        : m_obs(g.OBS_R),
+          m_punkte(g.R_Punkt),
+          m_settings(g.ROVER_Settings),
+          m_torel(g.ROVER_TOREL),
+          m_virt(g.ROVER_VIRT),
+          m_basislinien(g.BASISLINIE),
+          m_rinex(g.RINEX_Dateien),
+          m_begruendungen(g.Begruendungen)
+    {
+    }
+    void zurueck(Global& g) &&
+    {
+        g.OBS_R = std::move(m_obs);
+        g.R_Punkt = std::move(m_punkte);
+        g.ROVER_Settings = std::move(m_settings);
+        g.ROVER_TOREL = std::move(m_torel);
+        g.ROVER_VIRT = std::move(m_virt);
+        g.BASISLINIE = std::move(m_basislinien);
+        g.RINEX_Dateien = std::move(m_rinex);
+        g.Begruendungen = std::move(m_begruendungen);
+        baum_aufbauen(g);
+    }
+
+private:
+    Feld<OBS> m_obs;
+    Feld<Punkt> m_punkte;
+    Feld<ROVER_Settings_Satz> m_settings;
+    Feld<ROVER_TOREL_Satz> m_torel;
+    Feld<ROVER_VIRT_Satz> m_virt;
+    Feld<BASISLINIE_Satz> m_basislinien;
+    Feld<std::string> m_rinex;
+    std::vector<Begruendung> m_begruendungen;
+};
+
+Fehler zeilen_loeschen(Global& g, std::string_view rover, int stelle)
+{
+    Verkuerzung kuerzung(g);
+    if (ist_B(g)) basislinien_loeschen(g, kuerzung, rover);
+    if (!kuerzung.gescheitert()) reihen_loeschen(g, kuerzung, stelle);
+    const auto name = std::find(g.RINEX_Dateien.begin(), g.RINEX_Dateien.end(), rover);
+    if (name != g.RINEX_Dateien.end())
+        kuerzung.ohne(g.RINEX_Dateien, static_cast<int>(name - g.RINEX_Dateien.begin()) + 1, 69,
+                      "ReDim Preserve RINEX_Dateien(");
+    if (kuerzung.gescheitert()) return Fehler::gesetzt;
+    baum_aufbauen(g);
+    return Fehler::keiner;
+}
+
+// The project forgets the rover before its file goes: a rover without a file could never be removed. The rows are saved
+// before the keys go, so that a crash between the two loses no other rover's row.
+Fehler ueberall_loeschen(Global& g, std::string_view rover, int stelle)
+{
+    Bestand vorher(g);
+    if (ist_fehler(zeilen_loeschen(g, rover, stelle))) return Fehler::gesetzt;
+    if (ist_fehler(Verfahren_sichern(g))) {
+        std::move(vorher).zurueck(g);
+        return Fehler::gesetzt;
+    }
+    if (ist_fehler(datei_loeschen(g, rover))) {
+        std::move(vorher).zurueck(g);
+        (void)Verfahren_sichern(g);
+        return Fehler::gesetzt;
+    }
+    ergebnisse_loeschen(g, rover);
+    letzte_schluessel_entfernen(g);
+    g.oberflaeche->karte_zeichnen(false);
+    (void)menue_zeitfenster(g);
+    return Fehler::keiner;
+}
+
 }  // namespace
 
 Fehler ROVER_Datei_loeschen(Global& g, std::string_view rover_name)
@@ -130,25 +206,9 @@ Fehler ROVER_Datei_loeschen(Global& g, std::string_view rover_name)
     const int stelle = Index_OBS_R(g, rover);
     if (stelle == 0) return Fehler::gesetzt;
     if (!bestaetigt(g, rover)) return Fehler::keiner;
-    if (ist_fehler(datei_loeschen(g, rover))) return Fehler::gesetzt;
+    if (ist_fehler(datei_da(g, rover))) return Fehler::gesetzt;
     g.oberflaeche->sanduhr(true);
-    ergebnisse_loeschen(g, rover);
-    Verkuerzung kuerzung(g);
-    if (ist_B(g)) basislinien_loeschen(g, kuerzung, rover);
-    if (!kuerzung.gescheitert()) reihen_loeschen(g, kuerzung, stelle);
-    const auto name = std::find(g.RINEX_Dateien.begin(), g.RINEX_Dateien.end(), rover);
-    if (name != g.RINEX_Dateien.end())
-        kuerzung.ohne(g.RINEX_Dateien, static_cast<int>(name - g.RINEX_Dateien.begin()) + 1, 69,
-                      "ReDim Preserve RINEX_Dateien(");
-    Fehler fehler = Fehler::gesetzt;
-    if (!kuerzung.gescheitert()) {
-        baum_aufbauen(g);
-        // The rows are saved before the keys go, so that a crash between the two loses no other rover's row.
-        fehler = Verfahren_sichern(g);
-        if (!ist_fehler(fehler)) letzte_schluessel_entfernen(g);
-        g.oberflaeche->karte_zeichnen(false);
-        (void)menue_zeitfenster(g);
-    }
+    const Fehler fehler = ueberall_loeschen(g, rover, stelle);
     g.oberflaeche->sanduhr(false);
     return fehler;
 }

@@ -148,7 +148,7 @@ Fehler ini_schreiben_START(Global& g)
     const Sperre sperre(g.dateien, g.Einstellungsdatei, 5000);
     std::error_code fehler;
     Profil profil = Profil::aus_datei(g.dateien, g.Einstellungsdatei, fehler);
-    if (fehler || !sperre.gehalten()) return nicht_geschrieben(g);
+    if (fehler || sperre.besetzt()) return nicht_geschrieben(g);
     for (const auto& eintrag : start_vorn) profil.setzen("START", eintrag.schluessel, g.*eintrag.feld);
     for (const auto& eintrag : start_fenster) profil.setzen("START", eintrag.schluessel, verkettet(g.*eintrag.feld));
     for (const auto& eintrag : start_hinten) profil.setzen("START", eintrag.schluessel, g.*eintrag.feld);

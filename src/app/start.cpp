@@ -85,6 +85,7 @@ Fehler start(Global& g, const Startwahl& wahl)
     g.dateien.reste_wegraeumen(pfad_ordner(g.Einstellungsdatei));
     if (ist_fehler(ini_lesen_START(g))) return Fehler::gesetzt;
     if (g.EXE_Verzeichnis.empty()) g.EXE_Verzeichnis = g.Programmverzeichnis;
+    g.dateien.reste_wegraeumen(g.EXE_Verzeichnis);
     std::int32_t status = 0;
     DEFSYSTEM(1, 4, 2, status);
     return status != 0 ? Fehler::gesetzt : Fehler::keiner;

@@ -13,7 +13,8 @@ enum class Grundlage {
     nichts,         ///< not even the settings
     einstellungen,  ///< settings read
     katalog,        ///< settings and station catalogue read
-    verfahren       ///< also the project of the first word opened
+    nur_lesen,      ///< also the project of the first word opened, to be read beside other programs
+    verfahren       ///< the same, to be changed: by one program at a time
 };
 
 enum class Ausgang { gut = 0, misslungen = 1, falscher_aufruf = 2 };

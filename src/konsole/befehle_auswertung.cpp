@@ -111,7 +111,7 @@ constexpr Befehl befehle[] = {
      1,
      1,
      {},
-     Grundlage::verfahren,
+     Grundlage::nur_lesen,
      ergebnisse},
 };
 

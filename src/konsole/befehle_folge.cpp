@@ -157,7 +157,7 @@ constexpr Befehl befehle[] = {
      "gibt Punkte, Basislinien, Figuren und Zuordnungen für Karten und Tabellen anderer Programme aus\n"
      "Jedes Stück trägt Lösung, Standardabweichungen (mm) und Stationen, geographisch und in Zone 32. Was nicht\n"
      "berechnet ist, liegt, wo der Kopf seiner Datei es nennt. Ohne --nach steht alles auf der Ausgabe.",
-     "jorv export 1 --format geojson --nach waldweg.geojson", 1, 1, optionen_export, Grundlage::verfahren, ausgeben},
+     "jorv export 1 --format geojson --nach waldweg.geojson", 1, 1, optionen_export, Grundlage::nur_lesen, ausgeben},
 };
 
 }  // namespace

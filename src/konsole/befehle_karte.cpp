@@ -123,7 +123,7 @@ constexpr Befehl befehle[] = {
      "des\n"
      "Zeichnens alle Objekte mit ihren Orten im Bild (Ursprung oben links); das Bild lässt weg, was nicht zu sehen "
      "ist.",
-     "jorv karte 1 --ausgabe svg > karte.svg", 1, 1, optionen, Grundlage::verfahren, karte},
+     "jorv karte 1 --ausgabe svg > karte.svg", 1, 1, optionen, Grundlage::nur_lesen, karte},
 };
 
 }  // namespace

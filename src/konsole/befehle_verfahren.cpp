@@ -82,7 +82,7 @@ constexpr Befehl befehle[] = {
      "TEIL: kopf, rover, stationen, antennen, figuren, basislinien, baum, menue, katalog.\n"
      "--warum sagt, wie die Zuordnung zu ihrem Urteil über einen ROVER kam.\n"
      "Mit --json stehen alle Felder unter ihrem Namen, der Baum als Baum, die Menüs als Menue.",
-     "jorv zeigen 1 rover\n  jorv zeigen 1 --warum 5501167j.16o", 1, 2, optionen_zeigen, Grundlage::verfahren, zeigen},
+     "jorv zeigen 1 rover\n  jorv zeigen 1 --warum 5501167j.16o", 1, 2, optionen_zeigen, Grundlage::nur_lesen, zeigen},
     {"sichern",
      "NR",
      "öffnet ein Verfahren und schreibt seine Datei neu, sonst nichts",

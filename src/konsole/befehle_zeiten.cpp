@@ -122,7 +122,7 @@ constexpr Befehl befehle[] = {
      1,
      2,
      {},
-     Grundlage::verfahren,
+     Grundlage::nur_lesen,
      zeiten},
 };
 

@@ -61,11 +61,13 @@ Ausgang mit_einstellungen(Lage& lage)
     if (const Ausgang ausgang = starten(lage); ausgang != Ausgang::gut) return ausgang;
     const Grundlage grundlage = lage.aufruf.befehl->grundlage;
     std::string name;
-    if (grundlage == Grundlage::verfahren)
+    const bool mit_verfahren = grundlage >= Grundlage::nur_lesen;
+    if (mit_verfahren)
         if (const Ausgang ausgang = verfahren_finden(lage, name); ausgang != Ausgang::gut) return ausgang;
     if (grundlage >= Grundlage::katalog) erste_aktivierung(lage.g);
     Ausgang ausgang = Ausgang::gut;
-    if (grundlage == Grundlage::verfahren && ist_fehler(Verfahren_oeffnen(lage.g, name))) ausgang = Ausgang::misslungen;
+    const Zugriff zugriff = grundlage == Grundlage::nur_lesen ? Zugriff::lesen : Zugriff::aendern;
+    if (mit_verfahren && ist_fehler(Verfahren_oeffnen(lage.g, name, zugriff))) ausgang = Ausgang::misslungen;
     if (ausgang == Ausgang::gut) ausgang = ausfuehren(lage);
     if (ausgang == Ausgang::falscher_aufruf) return ausgang;
     return ist_fehler(ini_schreiben_START(lage.g)) ? Ausgang::misslungen : ausgang;
@@ -79,7 +81,7 @@ int programm(const Konsole& konsole, std::span<const std::string> worte)
     if (!fehler.empty()) return falscher_aufruf(konsole, aufruf, fehler);
     Konsolenschirm schirm(konsole.aus, konsole.err, {aufruf.antwort, konsole.terminal}, konsole.abbruch);
     const Systemuhr uhr;
-    Global g(schirm, uhr, Dateisystem());
+    Global g(schirm, uhr, Dateisystem(Laufwerke::aus_umgebung(), *konsole.aufrufe));
     Lage lage{aufruf, schirm, g, konsole.aus, konsole.err};
     const bool ohne = aufruf.befehl->grundlage == Grundlage::nichts;
     return static_cast<int>(ohne ? aufruf.befehl->ausfuehren(lage) : mit_einstellungen(lage));

@@ -6,6 +6,8 @@
 #include <span>
 #include <string>
 
+#include "plattform/systemaufrufe.h"
+
 namespace jorv {
 
 struct Konsole {
@@ -13,6 +15,7 @@ struct Konsole {
     std::ostream& err;
     bool terminal = false;          ///< standard error is a terminal
     std::function<bool()> abbruch;  ///< the user asked to stop
+    const Systemaufrufe* aufrufe = &Systemaufrufe::echte();  ///< of the files
 };
 
 /// Carries out one command line (without the program's name, UTF-8). Exit status: 0 good, 1 a routine failed, 2 wrong

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,6 +16,7 @@
 #include "modell/Saetze.h"
 #include "plattform/datei.h"
 #include "plattform/oberflaeche.h"
+#include "plattform/sperre.h"
 #include "plattform/uhr.h"
 
 namespace jorv {
@@ -54,6 +56,7 @@ struct Global {
     std::int32_t berechnete_ROVER = 0;  ///< rovers ready for computation
     /// Read to its end. A project that was not is never saved.
     bool vollstaendig_gelesen = false;
+    std::shared_ptr<const Sperre> Verfahrenssperre;  ///< while the project is open to be changed
     /// Sections that were not read and that a save leaves alone.
     std::vector<std::string> ungelesene_Sektionen;
     std::vector<Begruendung> Begruendungen;  ///< of the last automatik, by rover from 0
@@ -69,7 +72,7 @@ struct Global {
     std::int32_t Form_top = 0, Form_left = 0, Form_height = 0, Form_width = 0;
     std::string Form_zustand = "0";
     std::string Fenster_Baumbreite = "300", Fenster_Werkzeugleiste = "1";  ///< pixels; "0" hidden, "1" shown
-    std::string Programmverzeichnis;  ///< folder of the running program
+    std::string Programmverzeichnis;                                       ///< folder of the running program
     std::string Datei_Verzeichnis, EXE_Verzeichnis;
     Feld<Verfahren_Satz> Verfahren;
     std::array<std::string, 8> Liste_Name, Liste_Pfad, Liste_Modus;  ///< slot 1 is index 0

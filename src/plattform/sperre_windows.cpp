@@ -16,6 +16,7 @@ Sperre::Sperre(const Dateisystem& dateien, std::string_view pfad, int millisekun
             m_nummer = reinterpret_cast<std::intptr_t>(griff);
             return;
         }
+        m_besetzt = GetLastError() == ERROR_SHARING_VIOLATION;
         if (gewartet >= millisekunden) return;
         Sleep(20);
     }

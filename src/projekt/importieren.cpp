@@ -17,6 +17,7 @@
 #include "projekt/projektdatei_lesen.h"
 #include "projekt/verfahren.h"
 #include "projekt/verfahrensliste.h"
+#include "projekt/verfahrenssperre.h"
 
 namespace jorv {
 
@@ -233,11 +234,14 @@ Fehler sektionen_lesen(Global& g, const Profil& profil)
 
 Fehler importiertes_oeffnen(Global& g, const std::string& datei)
 {
+    std::shared_ptr<const Sperre> sperre;
     Profil profil;
-    if (ist_fehler(Projektdatei_laden(g, datei, profil))) return Fehler::gesetzt;
+    if (ist_fehler(Verfahren_sperren(g, datei, sperre)) || ist_fehler(Projektdatei_laden(g, datei, profil)))
+        return Fehler::gesetzt;
+    g.Verfahrenssperre = std::move(sperre);
     if (ist_fehler(Verfahrensdaten_leeren(g))) return Fehler::gesetzt;
     Verfahren_lesen(g, datei, profil);
-    g.dateien.reste_wegraeumen(g.Arbeitsverzeichnis);
+    reste_wegraeumen(g);
     vier_Menues(g, true);
     if (ist_fehler(sektionen_lesen(g, profil))) {
         vier_Menues(g, false);
@@ -273,8 +277,12 @@ Fehler unter_sperre_uebernehmen(Global& g, Importdialog& d, std::string& projekt
 Fehler cmd_import(Global& g, Importdialog& d)
 {
     m_datei_sichern(g);
+    reste_wegraeumen(g, pfad_ordner(d.Importdatei));
+    std::shared_ptr<const Sperre> quelle;
+    if (ist_fehler(Verfahren_sperren(g, d.Importdatei, quelle))) return Fehler::gesetzt;
     std::string projektdatei;
     const Fehler uebernommen = unter_sperre_uebernehmen(g, d, projektdatei);
+    quelle.reset();
     if (projektdatei.empty()) return Fehler::gesetzt;
     const Fehler geoeffnet = importiertes_oeffnen(g, projektdatei);
     g.oberflaeche->karte_zeichnen(true);

@@ -11,6 +11,7 @@
 #include "projekt/projektdatei_lesen.h"
 #include "projekt/projektdatei_schreiben.h"
 #include "projekt/verfahrensliste.h"
+#include "projekt/verfahrenssperre.h"
 
 namespace jorv {
 
@@ -62,6 +63,7 @@ bool verzeichnis_annehmbar(Global& g, std::string_view verzeichnis)
         stop_melden(g, datei_meldung("Das Verfahrensverzeichnis:", verzeichnis, "konnt nicht angelegt werden!"));
         return false;
     }
+    reste_wegraeumen(g, verzeichnis);
     if (g.dateien.ordner_lesen(verzeichnis).empty()) return true;
     stop_melden(g, datei_meldung("Das angegebene Verzeichnis:", verzeichnis,
                                  u8"existiert bereits und ist nicht leer!\n"
@@ -99,10 +101,13 @@ Fehler neues_oeffnen(Global& g, std::string_view datei)
     const Fehler geleert = Verfahrensdaten_leeren(g);
     g.oberflaeche->karte_zeichnen(true);
     baum_aufbauen(g);
-    if (ist_fehler(geleert) || ist_fehler(Verfahren_lesen(g, datei))) {
+    std::shared_ptr<const Sperre> sperre;
+    if (ist_fehler(geleert) || ist_fehler(Verfahren_sperren(g, datei, sperre)) ||
+        ist_fehler(Verfahren_lesen(g, datei))) {
         vier_Menues(g, false);
         return Fehler::gesetzt;
     }
+    g.Verfahrenssperre = std::move(sperre);
     g.vollstaendig_gelesen = true;
     g.Zeitfenster_1h = "0";
     g.Auswertemodus = "L1";
@@ -165,7 +170,7 @@ Fehler daten_lesen(Global& g, const std::string& datei, const Profil& profil)
 {
     if (ist_fehler(Verfahrensdaten_leeren(g))) return Fehler::gesetzt;
     Verfahren_lesen(g, datei, profil);
-    g.dateien.reste_wegraeumen(g.Arbeitsverzeichnis);
+    reste_wegraeumen(g);
     vier_Menues(g, true);
     if (ist_fehler(Dateidaten_lesen(g, profil))) return Fehler::gesetzt;
     g.vollstaendig_gelesen = true;
@@ -174,6 +179,14 @@ Fehler daten_lesen(Global& g, const std::string& datei, const Profil& profil)
 }
 
 }  // namespace
+
+void reste_wegraeumen(const Global& g)
+{
+    const std::string ausgaben = im_Verfahren(g, "jorv_out");
+    g.dateien.reste_wegraeumen(g.Arbeitsverzeichnis);
+    for (const auto& eintrag : g.dateien.ordner_lesen(ausgaben))
+        if (eintrag.ordner) g.dateien.reste_wegraeumen(verkettet(ausgaben, "\\", eintrag.name));
+}
 
 void vier_Menues(Global& g, bool an)
 {
@@ -194,6 +207,7 @@ void Verfahren_schliessen(Global& g)
 {
     vier_Menues(g, false);
     (void)Verfahrensdaten_leeren(g);
+    g.Verfahrenssperre.reset();
     g.Verfahrensname.clear();
     g.Verfahrensnummer.clear();
     g.Verfahrensmodus.clear();
@@ -227,7 +241,7 @@ Fehler Verfahren_anlegen(Global& g, const Verfahrenswahl& wahl)
     return Fehler::keiner;
 }
 
-Fehler Verfahren_oeffnen(Global& g, std::string_view verfahrensname)
+Fehler Verfahren_oeffnen(Global& g, std::string_view verfahrensname, Zugriff zugriff)
 {
     const std::string name(verfahrensname);  // may be a slot of the list that changes below
     m_datei_sichern(g);
@@ -241,8 +255,11 @@ Fehler Verfahren_oeffnen(Global& g, std::string_view verfahrensname)
     if (ist_fehler(Verfahren_pruefen(g, name))) return Fehler::gesetzt;
     const Verfahren_Satz& eintrag = g.Verfahren[Index_zu_Name(g, name)];
     const std::string datei = projektdatei(eintrag.Pfad, eintrag.Nummer);
+    std::shared_ptr<const Sperre> sperre;
+    if (zugriff == Zugriff::aendern && ist_fehler(Verfahren_sperren(g, datei, sperre))) return Fehler::gesetzt;
     Profil profil;
     if (ist_fehler(Projektdatei_laden(g, datei, profil))) return Fehler::gesetzt;
+    g.Verfahrenssperre = std::move(sperre);
     const Fehler gelesen = daten_lesen(g, datei, profil);
     if (ist_fehler(gelesen)) {
         vier_Menues(g, false);

@@ -66,6 +66,7 @@ Fehler m_datei_loeschen(Global& g)
         return Fehler::keiner;
     Liste_entfernen(g, g.Verfahrensname);
     vier_Menues(g, false);
+    g.Verfahrenssperre.reset();  // its file lies in the directory too
     Fehler fehler = Fehler::keiner;
     if (mit_daten && (!darf_weg(g) || g.dateien.ordner_loeschen(g.Arbeitsverzeichnis))) {
         stop_melden(g, u8"Das Arbeitsverzeichnis konnte nicht gelöscht werden!"_w);

@@ -101,8 +101,8 @@ Einstellungen_gesperrt::Einstellungen_gesperrt(Global& g)
       m_sperre(g.dateien, g.Einstellungsdatei, sperre_ms),
       m_profil(Profil::aus_datei(g.dateien, g.Einstellungsdatei, m_fehler))
 {
-    // Without the lock another program is just writing, or there is no such folder: nothing may be written then.
-    if (!m_fehler && !m_sperre.gehalten()) m_fehler = std::make_error_code(std::errc::resource_unavailable_try_again);
+    // Another program is just writing: nothing may be written then.
+    if (!m_fehler && m_sperre.besetzt()) m_fehler = std::make_error_code(std::errc::resource_unavailable_try_again);
 }
 
 Fehler Einstellungen_gesperrt::schreiben()

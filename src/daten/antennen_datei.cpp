@@ -263,6 +263,26 @@ void antennen_loeschen(Global& g, std::string_view name)
     if (!aus_liste(g, name)) stop_melden(g, dimensionierung_meldung(54, "antennen_loeschen", preserve(g)));
 }
 
+namespace {
+
+// A save has blanked the row behind the shortened list; here its key goes outright.
+Fehler letzten_schluessel_entfernen(Global& g)
+{
+    constexpr std::string_view sektion = "ANTENNEN-DATEIEN";
+    const std::string schluessel = verkettet(g.Antennen_Dateien.anzahl() + 1);
+    std::error_code grund;
+    Profil profil = Profil::aus_datei(g.dateien, g.Verfahrensdatei, grund);
+    if (!grund && !profil.hat(sektion, schluessel)) return Fehler::keiner;
+    profil.entfernen(sektion, schluessel);
+    if (!grund) grund = profil.schreiben(g.dateien, g.Verfahrensdatei);
+    if (!grund) return Fehler::keiner;
+    stop_melden(
+        g, datei_meldung("In die Verfahrensdatei: ", g.Verfahrensdatei, "konnt nicht fehlerfrei geschrieben werden!"));
+    return Fehler::gesetzt;
+}
+
+}  // namespace
+
 Fehler Antennen_Datei_loeschen(Global& g, const std::string& name)
 {
     const std::string frage = verkettet(
@@ -277,19 +297,19 @@ Fehler Antennen_Datei_loeschen(Global& g, const std::string& name)
     if (!g.dateien.vorhanden(pfad))
         return abbrechen(verkettet("Die Antennedatei: ", name, "\nist nicht mehr im Verfahrensverzeichnis: ",
                                    g.Arbeitsverzeichnis, u8"\nvorhanden! Löschfunktion abgebrochen"_w));
-    if (g.dateien.loeschen(pfad))
-        return abbrechen(
-            verkettet("Die Antennedatei: ", name, u8"\nkonnte nicht gelöscht werden! Löschfunktion abgebrochen"_w));
+    const Feld<std::string> vorher = g.Antennen_Dateien;
     if (!aus_liste(g, name))
         return abbrechen(verkettet("Dimensionierungsfehler! (65 in Antennen_Datei_loeschen)\n", preserve(g),
                                    "\nevtl. Speicherplatzprobleme!"));
-
-    std::error_code grund;
-    Profil profil = Profil::aus_datei(g.dateien, g.Verfahrensdatei, grund);
-    profil.entfernen("ANTENNEN-DATEIEN", verkettet(g.Antennen_Dateien.anzahl() + 1));
-    // A failure shows when the project is saved below.
-    if (!grund && profil.hat_sektion("ANTENNEN-DATEIEN")) grund = profil.schreiben(g.dateien, g.Verfahrensdatei);
-
+    // The project forgets the file before it goes: an entry without a file could never be removed.
+    const Fehler gesichert = Verfahren_sichern(g);
+    if (ist_fehler(gesichert) || g.dateien.loeschen(pfad)) {
+        g.Antennen_Dateien = vorher;
+        if (ist_fehler(gesichert)) return gesichert;
+        (void)Verfahren_sichern(g);
+        return abbrechen(
+            verkettet("Die Antennedatei: ", name, u8"\nkonnte nicht gelöscht werden! Löschfunktion abgebrochen"_w));
+    }
     const std::string format = Antennenformat(g);
     if (Verfahren_Satz* verfahren = aktuelles_Verfahren(g); verfahren && g.Antennen_Dateien.anzahl() == 0)
         verfahren->Antenne = "?";
@@ -298,7 +318,8 @@ Fehler Antennen_Datei_loeschen(Global& g, const std::string& name)
     else if (format == "APC")
         (void)VerfahrensAPC_erzeugen(g);
     baum_aufbauen(g);
-    return Verfahren_sichern(g);
+    if (const Fehler fehler = Verfahren_sichern(g); ist_fehler(fehler)) return fehler;
+    return letzten_schluessel_entfernen(g);
 }
 
 }  // namespace jorv

@@ -127,6 +127,11 @@ Fehler ini_lesen_START(Global& g)
         stop_melden(g, datei_meldung("Die Einstellungsdatei:", g.Einstellungsdatei, "konnte nicht gelesen werden!"));
         return Fehler::gesetzt;
     }
+    return Einstellungen_lesen(g, profil);
+}
+
+Fehler Einstellungen_lesen(Global& g, const Profil& profil)
+{
     texte_lesen(g, profil, "START", start_vorn);
     for (const auto& eintrag : start_fenster)
         if (const auto zahl = ganz_streng(profil.wert("START", eintrag.schluessel))) g.*eintrag.feld = *zahl;
@@ -143,12 +148,8 @@ Fehler ini_lesen_START(Global& g)
     return Fehler::keiner;
 }
 
-Fehler ini_schreiben_START(Global& g)
+void Einstellungen_eintragen(const Global& g, Profil& profil)
 {
-    const Sperre sperre(g.dateien, g.Einstellungsdatei, 5000);
-    std::error_code fehler;
-    Profil profil = Profil::aus_datei(g.dateien, g.Einstellungsdatei, fehler);
-    if (fehler || sperre.besetzt()) return nicht_geschrieben(g);
     for (const auto& eintrag : start_vorn) profil.setzen("START", eintrag.schluessel, g.*eintrag.feld);
     for (const auto& eintrag : start_fenster) profil.setzen("START", eintrag.schluessel, verkettet(g.*eintrag.feld));
     for (const auto& eintrag : start_hinten) profil.setzen("START", eintrag.schluessel, g.*eintrag.feld);
@@ -158,6 +159,15 @@ Fehler ini_schreiben_START(Global& g)
             profil.setzen(liste.sektion, verkettet(n), (g.*liste.feld)[static_cast<std::size_t>(n - 1)]);
     for (const auto& eintrag : fenster) profil.setzen("FENSTER", eintrag.schluessel, g.*eintrag.feld);
     Verfahrensliste_eintragen(g, profil);
+}
+
+Fehler ini_schreiben_START(Global& g)
+{
+    const Sperre sperre(g.dateien, g.Einstellungsdatei, 5000);
+    std::error_code fehler;
+    Profil profil = Profil::aus_datei(g.dateien, g.Einstellungsdatei, fehler);
+    if (fehler || sperre.besetzt()) return nicht_geschrieben(g);
+    Einstellungen_eintragen(g, profil);
     return profil.schreiben(g.dateien, g.Einstellungsdatei) ? nicht_geschrieben(g) : Fehler::keiner;
 }
 

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "auswertung/basislinie.h"
+#include "auswertung/ergebniszeile.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
@@ -12,16 +13,6 @@
 namespace jorv {
 
 namespace {
-
-constexpr std::size_t laenge_kurz = 101;       // short list with the four-character point name
-constexpr std::size_t laenge_kurz_lang = 117;  // with the twenty-character name
-constexpr std::size_t laenge_lang = 100;       // long list, the row of the short report
-
-// The three lists of a baseline: first column and length.
-struct Spalten {
-    std::size_t von, laenge;
-};
-constexpr Spalten spalten_bal = {1, 103}, spalten_mrk = {105, 96}, spalten_tem = {202, 87};
 
 constexpr std::string_view kopf_bal =
     "von  nach           dx          dy          dz     distance      sX     sY     sZ     rXY    rYZ    rZX\r\n";
@@ -120,7 +111,7 @@ void loeschen(Global& g, const std::string& pfad, std::string_view kopf)
     if (g.dateien.loeschen(pfad)) stop_melden(g, datei_meldung(kopf, pfad, nicht_geloescht));
 }
 
-void rover_auswerten(Global& g, const std::string& rover, std::size_t laenge_utm, int& status)
+void rover_auswerten(Global& g, const std::string& rover, bool langer_name, int& status)
 {
     const std::string extraktion = extraktionsdatei(g, rover);
     const std::string utm = verkettet(rover, ".UTM"), krz = verkettet(rover, ".KRZ");
@@ -136,9 +127,9 @@ void rover_auswerten(Global& g, const std::string& rover, std::size_t laenge_utm
           "Die aktuelle Kurzprotokolldatei:", "In die aktuelle Kurprotokolldatei:", Dauer::fluechtig},
          {Verfahrens_Datei(g, ".KRZ"),
           "Die Kurzprotokolldatei aller Rover:", "In die Kurzprotokolldatei aller Rover:"}}};
-    const auto zerlegen = [laenge_utm](std::string_view zeile) {
-        const std::string_view bericht = rechts(zeile, laenge_lang);
-        return std::array{links(zeile, laenge_utm), bericht, bericht};
+    const auto zerlegen = [langer_name](std::string_view zeile) {
+        const auto stuecke = extrakt_zerlegen(zeile, langer_name);
+        return std::array{stuecke.utm, stuecke.bericht, stuecke.bericht};
     };
     if (!in_die_ergebnisse(g, ziele, extraktion, *text, zerlegen)) return;
     const bool utm_abgelegt = ablegen(g, ziele[0].pfad, "dat_rov", utm, "Die RuNA-Eingabedatei:");
@@ -157,12 +148,12 @@ std::string extraktionsdatei(const Global& g, std::string_view rover)
 
 void rover_auswerten_vrs(Global& g, const std::string& rover, int& status)
 {
-    rover_auswerten(g, rover, g.MARKER_Info == "S" ? laenge_kurz : laenge_kurz_lang, status);
+    rover_auswerten(g, rover, g.MARKER_Info != "S", status);
 }
 
 void rover_auswerten_fremd(Global& g, const std::string& rover, int& status)
 {
-    rover_auswerten(g, rover, laenge_kurz, status);
+    rover_auswerten(g, rover, false, status);
 }
 
 void basis_auswerten(Global& g, const std::string& basislinie, int& status)
@@ -188,8 +179,8 @@ void basis_auswerten(Global& g, const std::string& basislinie, int& status)
     // It holds one baseline only: what a broken run has left must not come before the row.
     if (g.dateien.ist_datei(ziele[2].pfad)) (void)g.dateien.loeschen(ziele[2].pfad);
     const auto zerlegen = [](std::string_view zeile) {
-        const auto stueck = [zeile](const Spalten& spalten) { return mitte(zeile, spalten.von, spalten.laenge); };
-        return std::array{stueck(spalten_mrk), stueck(spalten_tem), stueck(spalten_bal), stueck(spalten_bal)};
+        const auto stuecke = extrakt_zerlegen_basis(zeile);
+        return std::array{stuecke.mrk, stuecke.tem, stuecke.bal, stuecke.bal};
     };
     if (!in_die_ergebnisse(g, ziele, extraktion, *text, zerlegen)) return;
     const std::string eigene = verkettet(links(von, 8), "-", links(nach, 8), ".BAL");

@@ -22,6 +22,19 @@ struct Ergebnis {
 /// coordinates are no numbers.
 std::optional<Ergebnis> ergebnis_aus_zeile(std::string_view zeile);
 
+/// The pieces of a rover's extraction row: the short list (with the long point name 16 characters more) and the long
+/// one behind it. A row that is shorter gives what there is.
+struct Extraktstuecke {
+    std::string_view utm, bericht;
+};
+Extraktstuecke extrakt_zerlegen(std::string_view zeile, bool langer_name);
+
+/// The three lists of a baseline's row.
+struct Basisstuecke {
+    std::string_view bal, mrk, tem;
+};
+Basisstuecke extrakt_zerlegen_basis(std::string_view zeile);
+
 /// The last line of the rover's result file below the work directory; nothing when there is none.
 std::optional<Ergebnis> ergebnis_lesen(const Dateisystem& dateien, std::string_view arbeitsverzeichnis,
                                        std::string_view rover);

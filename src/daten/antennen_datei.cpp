@@ -1,10 +1,8 @@
 #include "daten/antennen_datei.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
 
-#include "daten/rinex_abtastung.h"
+#include "daten/antennen_text.h"
 #include "modell/Baum.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
@@ -17,19 +15,6 @@ namespace jorv {
 namespace {
 
 constexpr std::string_view kopf_datei = "Die Antennendatei:";
-
-constexpr std::array<std::string_view, 11> apc_kopf = {
-    "12345678911234567892123456789312345678941234567895123456789612345678971234567890",
-    "         0         0         0         0         0         0         0         0",
-    "VENDOR         MODEL #               DESCRIPTION                  (AVE) YR/MO/DY",
-    "                                                             |AVE = # in average",
-    " [north]  [ east]  [  up ]             ",
-    " [90]  [85]  [80]  [75]  [70]  [65]  [60]  [55]  [50]  [45]  | L1 Phase at",
-    " [40]  [35]  [30]  [25]  [20]  [15]  [10]  [ 5]  [ 0]        | Elevation (mm)",
-    " [north]  [ east]  [  up ]                                   | L2 Offset (mm)",
-    " [90]  [85]  [80]  [75]  [70]  [65]  [60]  [55]  [50]  [45]  | L2 Phase at",
-    " [40]  [35]  [30]  [25]  [20]  [15]  [10]  [ 5]  [ 0]        | Elevation (mm)",
-    ""};
 
 // The list of refused files of one run of a generator.
 class Kaputte {
@@ -73,37 +58,15 @@ Gelesen oeffnen(Global& g, const std::string& name)
     return datei;
 }
 
-// What the files checked so far agree on.
-struct Kalibrierung {
-    std::string Art;              // "A" absolute, "R" relative
-    std::string Referenzantenne;  // 20 characters
-};
-
 std::string_view art_wort(std::string_view art)
 {
     return art == "A" ? "absolut" : art == "R" ? "relativ" : "???";
 }
 
-enum class Urteil { passt, andere_art, andere_referenz };
-
-Urteil zeile_pruefen(std::string_view zeile, bool erste_datei, Kalibrierung& bisher)
-{
-    const auto art = links(zeile, 1), referenz = mitte(zeile, 21, 20);
-    if (bisher.Art.empty() && erste_datei)
-        bisher.Art = art;
-    else if (bisher.Art != art)
-        return Urteil::andere_art;
-    if (bisher.Referenzantenne.empty() && erste_datei)
-        bisher.Referenzantenne = referenz;
-    else if (bisher.Art == "R" && bisher.Referenzantenne != referenz)
-        return Urteil::andere_referenz;
-    return Urteil::passt;
-}
-
-void ablehnung_melden(Global& g, Urteil urteil, std::string_view zeile, const Kalibrierung& bisher,
+void ablehnung_melden(Global& g, Kalibrierurteil urteil, std::string_view zeile, const Kalibrierung& bisher,
                       const std::string& name)
 {
-    if (urteil == Urteil::andere_art)
+    if (urteil == Kalibrierurteil::andere_art)
         stop_melden(
             g, verkettet(u8"Relativ und absolut kalibrierte Antennen dürfen in einem Verfahren\nnicht "_w,
                          u8"gemischt werden!\nDie bisher geprüften Antennen waren >"_w, art_wort(bisher.Art),
@@ -122,23 +85,11 @@ bool datei_pruefen(Global& g, const std::string& name, bool erste_datei, Kalibri
     const Gelesen datei = oeffnen(g, name);
     if (datei.stufe == Dateistufe::oeffnen) return kaputte.aufnehmen(81, name);
     if (!datei.gut()) return false;
-    Zeilenleser zeilen(datei.text);
-    while (const auto zeile = zeilen.naechste()) {
-        if (!ist_kopfzeile(*zeile, "PCV TYPE / REFANT")) continue;
-        const Urteil urteil = zeile_pruefen(*zeile, erste_datei, bisher);
-        if (urteil == Urteil::passt) continue;
-        ablehnung_melden(g, urteil, *zeile, bisher, name);
-        return kaputte.aufnehmen(urteil == Urteil::andere_art ? 82 : 83, name);
-    }
-    return true;
-}
-
-void zeilen_anfuegen(std::string& ziel, Zeilenleser zeilen)
-{
-    while (const auto zeile = zeilen.naechste()) {
-        ziel += *zeile;
-        ziel += "\r\n";
-    }
+    std::string_view zeile;
+    const auto urteil = kalibrierung_pruefen(datei.text, erste_datei, bisher, zeile);
+    if (urteil == Kalibrierurteil::passt) return true;
+    ablehnung_melden(g, urteil, zeile, bisher, name);
+    return kaputte.aufnehmen(urteil == Kalibrierurteil::andere_art ? 82 : 83, name);
 }
 
 // Writes the project file whole.
@@ -171,22 +122,11 @@ Fehler atx_schreiben(Global& g, Kaputte& kaputte)
         const Gelesen datei = oeffnen(g, name);
         if (!datei.gut() && (datei.stufe != Dateistufe::oeffnen || !kaputte.aufnehmen(84, name)))
             return Fehler::gesetzt;
-        zeilen_anfuegen(inhalt, Zeilenleser(datei.text));
+        inhalt += zeilen_mit_umbruch(datei.text);
     }
     if (!projektdatei_schreiben(g, Verfahrens_Datei(g, ".ATX"), inhalt)) return Fehler::gesetzt;
     fertig(g);
     return Fehler::keiner;
-}
-
-// What a file of the IGS form adds: all behind its head; nothing when it is shorter than that.
-std::optional<std::string> apc_inhalt(std::string_view text)
-{
-    Zeilenleser zeilen(text);
-    for (std::size_t i = 0; i < apc_kopf.size(); ++i)
-        if (!zeilen.naechste()) return std::nullopt;
-    std::string inhalt;
-    zeilen_anfuegen(inhalt, zeilen);
-    return inhalt;
 }
 
 // The list of antenna files less one name; false when it can't be resized.
@@ -312,7 +252,7 @@ Fehler Antennen_Datei_loeschen(Global& g, const std::string& name)
     }
     const std::string format = Antennenformat(g);
     if (Verfahren_Satz* verfahren = aktuelles_Verfahren(g); verfahren && g.Antennen_Dateien.anzahl() == 0)
-        verfahren->Antenne = "?";
+        verfahren->Antenne.assign(1, '?');
     else if (format == "ATX")
         (void)VerfahrensATX_erzeugen(g);
     else if (format == "APC")

@@ -6,7 +6,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "daten/rinex_abtastung.h"
+#include "daten/antennen_text.h"
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
@@ -14,10 +14,6 @@
 namespace jorv {
 
 namespace {
-
-struct Antenne {
-    std::string Nummer, Typ;  // 20 characters each; the IGS form has names only
-};
 
 // The state of one test.
 class Test {
@@ -54,7 +50,7 @@ private:
     bool m_atx;
     std::string m_antennenpfad, m_koordinatenpfad, m_protokollpfad;
     std::vector<std::string> m_koordinaten;  // names of the coordinate file
-    std::vector<Antenne> m_antennen;
+    std::vector<Antennenname> m_antennen;
     std::unordered_set<std::string> m_nummern, m_typmittel;  // trimmed
     std::string m_protokoll;
     Feld<std::string> m_liste;
@@ -81,14 +77,7 @@ bool Test::dateien_lesen()
     }
     const auto inhalt = oeffnen("Die Antennendatei:", m_antennenpfad);
     if (!inhalt) return false;
-    Zeilenleser zeilen(*inhalt);
-    constexpr int apc_kopfzeilen = 11;
-    for (int nummer = 1; const auto zeile = zeilen.naechste(); ++nummer) {
-        if (m_atx && ist_kopfzeile(*zeile, "TYPE / SERIAL NO"))
-            m_antennen.push_back({std::string(mitte(*zeile, 21, 20)), std::string(links(*zeile, 20))});
-        if (!m_atx && nummer > apc_kopfzeilen && !zeile->empty() && zeile->front() != ' ')
-            m_antennen.push_back({std::string(links(*zeile, 20)), {}});
-    }
+    m_antennen = m_atx ? antennennamen_atx(*inhalt) : antennennamen_apc(*inhalt);
     const auto leer = [this](std::string_view kopf, const std::string& pfad) {
         return melden(datei_meldung(kopf, pfad, u8"enthält nicht eine einzige Antennenbezeichnung!"_w));
     };
@@ -120,7 +109,7 @@ bool Test::koordinaten_pruefen()
     std::vector<int> treffer;
     for (const auto& name : m_koordinaten) {
         const auto zahl = std::count_if(m_antennen.begin(), m_antennen.end(),
-                                        [&name](const Antenne& antenne) { return antenne.Nummer == name; });
+                                        [&name](const Antennenname& antenne) { return antenne.Nummer == name; });
         treffer.push_back(static_cast<int>(zahl));
         gesamt += static_cast<std::size_t>(zahl);
     }

@@ -72,7 +72,9 @@ bool verschieden(Global& g, const Beziehung& b)
     return false;
 }
 
-Fehler zeilen_lesen(Global& g, std::string_view text, std::string_view datei)
+}  // namespace
+
+Fehler beziehungen_lesen(Global& g, std::string_view text, std::string_view datei)
 {
     Zeilenleser zeilen(text);
     int nummer = 0;
@@ -86,8 +88,6 @@ Fehler zeilen_lesen(Global& g, std::string_view text, std::string_view datei)
     }
     return Fehler::keiner;
 }
-
-}  // namespace
 
 Fehler m_datei_basis_liste(Global& g, std::string_view gewaehlt)
 {
@@ -104,7 +104,7 @@ Fehler beziehungsliste_laden(Global& g, std::string_view datei)
                                                                         : "konnte nicht richtig gelesen werden!"));
         return Fehler::gesetzt;
     }
-    const Fehler fehler = zeilen_lesen(g, liste.text, datei);
+    const Fehler fehler = beziehungen_lesen(g, liste.text, datei);
     baum_aufbauen(g);
     g.oberflaeche->karte_zeichnen(false);
     return fehler;

@@ -21,4 +21,7 @@ Fehler m_datei_basis_liste(Global& g, std::string_view gewaehlt);
 /// failure. The records made so far stay, tree and map are renewed; an unreadable file changes nothing.
 Fehler beziehungsliste_laden(Global& g, std::string_view datei);
 
+/// The same for the text of a list; `datei` is for the messages.
+Fehler beziehungen_lesen(Global& g, std::string_view text, std::string_view datei);
+
 }  // namespace jorv

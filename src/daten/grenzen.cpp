@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <utility>
 
 #include "daten/dateistand.h"
 #include "daten/exe_datei.h"
@@ -89,17 +90,11 @@ Fehler nicht_offen(Global& g)
     return Fehler::gesetzt;
 }
 
-}  // namespace
-
-Fehler grafik_grenzen_laden(Global& g)
+Fehler grenzen_lesen(Global& g, std::string_view chiffrat, std::string_view pfad, Wartefeld& wartefeld)
 {
-    Wartefeld wartefeld(g);
-    const std::string pfad = exe_datei(g, grenzen_name);
-    const auto inhalt = g.dateien.lesen(pfad);
-    if (!inhalt) return nicht_offen(g);
     if (!g.Lnd.groesse_setzen(0)) return nicht_dimensioniert(g, 39, "    ReDim Lnd(0)");
 
-    Zeilenleser zeilen(*inhalt);
+    Zeilenleser zeilen(chiffrat);
     const auto erste = klartext(g, zeilen.naechste().value_or(""), {pfad, 1});
     if (!erste) return Fehler::gesetzt;
     const auto anzahl = ganz32_holen(g, *erste, 1, wert_anzahl, {pfad, 1});
@@ -123,6 +118,22 @@ Fehler grafik_grenzen_laden(Global& g)
     return Fehler::keiner;
 }
 
+}  // namespace
+
+Fehler grafik_grenzen_laden(Global& g)
+{
+    Wartefeld wartefeld(g);
+    const std::string pfad = exe_datei(g, grenzen_name);
+    const auto inhalt = g.dateien.lesen(pfad);
+    return inhalt ? grenzen_lesen(g, *inhalt, pfad, wartefeld) : nicht_offen(g);
+}
+
+Fehler grenzen_aus_text(Global& g, std::string_view chiffrat, std::string_view pfad)
+{
+    Wartefeld wartefeld(g);
+    return grenzen_lesen(g, chiffrat, pfad, wartefeld);
+}
+
 void m_grafik_grenzen(Global& g)
 {
     g.Grenzen.assign(1, g.Grenzen == "1" ? '0' : '1');
@@ -131,30 +142,37 @@ void m_grafik_grenzen(Global& g)
     g.oberflaeche->menue_erneuern();
 }
 
-Fehler grenzen_machen(Global& g, std::string_view listentext)
+std::optional<std::string> grenzen_als_text(const Feld<Lnd_Satz>& punkte)
 {
-    Zeilenleser zeilen(listentext);
-    std::string punkte;
-    int nummer = 0, anzahl = 0;
-    bool gescheitert = false;
-    const auto zeile_anfuegen = [&gescheitert](std::string& bytes, const std::string& klar) {
+    std::string bytes;
+    bool gut = true;
+    const auto anfuegen = [&](const std::string& klar) {
         int fehler = 0;
         bytes += krypt(klar, Kryptmodus::chiffrieren, fehler);
         bytes += "\r\n";
-        gescheitert = gescheitert || fehler != 0;
+        gut = gut && fehler == 0;
     };
+    anfuegen(verkettet(punkte.anzahl()));
+    for (const auto& p : punkte)
+        anfuegen(verkettet(static_cast<int>(p.Typ), " ", fest(p.Rechtswert, 3), " ", fest(p.Hochwert, 3)));
+    return gut ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
+Fehler grenzen_machen(Global& g, std::string_view listentext)
+{
+    Zeilenleser zeilen(listentext);
+    Feld<Lnd_Satz> punkte;
+    bool gut = true;
+    int nummer = 0;
     while (const auto zeile = zeilen.naechste()) {
         ++nummer;
         if (trimmen(*zeile).empty()) continue;
         const auto punkt = punkt_lesen(g, *zeile, {"Grenzliste", nummer});
         if (!punkt) return Fehler::gesetzt;
-        zeile_anfuegen(punkte, verkettet(static_cast<int>(punkt->Typ), " ", fest(punkt->Rechtswert, 3), " ",
-                                         fest(punkt->Hochwert, 3)));
-        ++anzahl;
+        gut = punkte.anfuegen(*punkt) && gut;
     }
-    std::string bytes;
-    zeile_anfuegen(bytes, verkettet(anzahl));
-    if (gescheitert || exe_datei_schreiben(g, grenzen_name, bytes + punkte)) {
+    const auto bytes = gut ? grenzen_als_text(punkte) : std::nullopt;
+    if (!bytes || exe_datei_schreiben(g, grenzen_name, *bytes)) {
         stop_melden(g, datei_meldung("In die Datei mit den Landesgrenzen:", exe_datei(g, grenzen_name),
                                      "konnte nicht fehlerfrei geschrieben werden!"));
         return Fehler::gesetzt;

@@ -14,6 +14,7 @@
 #include "plattform/text.h"
 #include "plattform/wort.h"
 #include "plattform/zahl.h"
+#include "projekt/reihe.h"
 
 namespace jorv {
 
@@ -57,13 +58,18 @@ int index_von(const Global& g, std::string_view PKZ)
     return 0;
 }
 
-// The plain line of a station. A name with a blank goes into quotes, or it would be read to the blank only.
+// A coordinate in its columns; one that fills them gets a blank ahead, or it would run into the one before.
+std::string spalte(double wert, std::string_view bild)
+{
+    const std::string text = zahl_format_fuell(wert, bild, " ");
+    return text.starts_with(' ') ? text : verkettet(' ', text);
+}
+
+// The plain line of a station. A word with a blank goes into quotes, or it would be read to the blank only.
 std::string klarzeile(const TOREL_Punkt_Satz& punkt)
 {
-    const bool mit_blank = punkt.Name.find(' ') != std::string::npos;
-    return verkettet(punkt.PKZ, " ", zahl_format_fuell(punkt.X, "##########0.000", " "),
-                     zahl_format_fuell(punkt.Y, "#######0.000", " "), zahl_format_fuell(punkt.Z, "#######0.000", " "),
-                     "   ", mit_blank ? "\"" : "", punkt.Name, mit_blank ? "\"" : "");
+    return verkettet(als_wort(punkt.PKZ), " ", zahl_format_fuell(punkt.X, "##########0.000", " "),
+                     spalte(punkt.Y, "#######0.000"), spalte(punkt.Z, "#######0.000"), "   ", als_wort(punkt.Name));
 }
 
 // One more enciphered line; false when the station can't be enciphered.
@@ -118,34 +124,7 @@ Fehler katalog_lesen(Global& g)
     const std::string pfad = exe_datei(g, katalog_name);
     const Gelesen datei = g.dateien.lesen_stufenweise(pfad);
     if (!datei.gut()) return datei.stufe == Dateistufe::oeffnen ? nicht_offen(g) : lesefehler(g);
-    if (!g.TOREL_Punkt.groesse_setzen(1))
-        return nicht_dimensioniert(g, 10, "torel_coo_laden", "    ReDim TOREL_Punkt(1)");
-    g.TOREL_Punkt.leeren();
-
-    Zeilenleser zeilen(datei.text);
-    Kommabereich bereich;
-    int nummer = 0;
-    while (const auto chiffre = zeilen.naechste()) {
-        int fehler = 0;
-        const std::string klar = krypt(*chiffre, Kryptmodus::dechiffrieren, fehler);
-        ++nummer;
-        if (fehler != 0) return lesefehler(g);
-        if (klar.empty()) continue;
-        const std::string zeile = bereich.anwenden(klar);
-        auto punkt = zeile_lesen(g, zeile, {pfad, nummer});
-        if (!punkt) return Fehler::gesetzt;
-        const Wort name = wort_finden(zeile, 5);
-        bereich.merken(name);
-        if (name.status == Wortstatus::gefunden) punkt->Name = name.text;
-        if (!g.TOREL_Punkt.anfuegen())
-            return nicht_dimensioniert(g, 11, "torel_coo_laden", preserve(g.TOREL_Punkt.anzahl() + 1));
-        if (ist_fehler(umrechnen(g, *punkt))) {
-            g.TOREL_Punkt.entfernen(g.TOREL_Punkt.anzahl());
-            return Fehler::gesetzt;
-        }
-        g.TOREL_Punkt.letztes() = std::move(*punkt);
-    }
-    return Fehler::keiner;
+    return katalog_aus_text(g, datei.text, pfad);
 }
 
 // Fails unless memory knows every station of the file. Behind a damaged line it doesn't, and the file must stay as it
@@ -205,10 +184,8 @@ Fehler station_anhaengen(Global& g, const TOREL_Punkt_Satz& punkt)
 
 Fehler alle_schreiben(Global& g)
 {
-    std::string bytes;
-    for (const auto& punkt : g.TOREL_Punkt)
-        if (!zeile_anfuegen(bytes, punkt)) return eintrag_gescheitert(g);
-    return katalog_schreiben(g, bytes, eintrag_meldung("write"));
+    const auto bytes = katalog_als_text(g.TOREL_Punkt);
+    return bytes ? katalog_schreiben(g, *bytes, eintrag_meldung("write")) : eintrag_gescheitert(g);
 }
 
 // The name behind the fourth word: the rest of the line, its quotes taken off.
@@ -221,6 +198,46 @@ std::string listenname(std::string_view zeile)
 }
 
 }  // namespace
+
+Fehler katalog_aus_text(Global& g, std::string_view chiffrat, std::string_view pfad)
+{
+    if (!g.TOREL_Punkt.groesse_setzen(1))
+        return nicht_dimensioniert(g, 10, "torel_coo_laden", "    ReDim TOREL_Punkt(1)");
+    g.TOREL_Punkt.leeren();
+
+    Zeilenleser zeilen(chiffrat);
+    Kommabereich bereich;
+    int nummer = 0;
+    while (const auto chiffre = zeilen.naechste()) {
+        int fehler = 0;
+        const std::string klar = krypt(*chiffre, Kryptmodus::dechiffrieren, fehler);
+        ++nummer;
+        if (fehler != 0) return lesefehler(g);
+        if (klar.empty()) continue;
+        const std::string zeile = bereich.anwenden(klar);
+        auto punkt = zeile_lesen(g, zeile, {pfad, nummer});
+        if (!punkt) return Fehler::gesetzt;
+        const Wort name = wort_finden(zeile, 5);
+        bereich.merken(name);
+        if (name.status == Wortstatus::gefunden) punkt->Name = name.text;
+        if (!g.TOREL_Punkt.anfuegen())
+            return nicht_dimensioniert(g, 11, "torel_coo_laden", preserve(g.TOREL_Punkt.anzahl() + 1));
+        if (ist_fehler(umrechnen(g, *punkt))) {
+            g.TOREL_Punkt.entfernen(g.TOREL_Punkt.anzahl());
+            return Fehler::gesetzt;
+        }
+        g.TOREL_Punkt.letztes() = std::move(*punkt);
+    }
+    return Fehler::keiner;
+}
+
+std::optional<std::string> katalog_als_text(const Feld<TOREL_Punkt_Satz>& stationen)
+{
+    std::string bytes;
+    for (const auto& punkt : stationen)
+        if (!zeile_anfuegen(bytes, punkt)) return std::nullopt;
+    return bytes;
+}
 
 std::string ascii_umschrift(std::string_view text)
 {

@@ -1,6 +1,7 @@
 // The enciphered catalogue of the permanent reference stations.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,11 @@ Fehler torel_punkt_entfernen(Global& g, int index);
 /// Makes the catalogue from plain lines "PKZ X Y Z Name" (the name may hold blanks; empty lines are passed over) and
 /// takes it into memory. A bad line shows its message, and the old catalogue stays.
 Fehler katalog_machen(Global& g, std::string_view listentext);
+
+/// The bytes of a catalogue file into TOREL_Punkt and back; `pfad` is for the messages. A bad line ends the reading
+/// with its message; nothing comes back when a station can't be enciphered.
+Fehler katalog_aus_text(Global& g, std::string_view chiffrat, std::string_view pfad);
+std::optional<std::string> katalog_als_text(const Feld<TOREL_Punkt_Satz>& stationen);
 
 /// The seven German letters in two ASCII letters each.
 std::string ascii_umschrift(std::string_view text);

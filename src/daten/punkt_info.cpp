@@ -1,13 +1,13 @@
 #include "daten/punkt_info.h"
 
 #include <array>
-#include <cmath>
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 #include "daten/dateiname.h"
 #include "daten/rinex_abtastung.h"
-#include "daten/wortzahl.h"
+#include "daten/rinex_kopf.h"
 #include "geo/gps_zeit.h"
 #include "geo/xyz_nach_utm.h"
 #include "modell/Gemeinsam.h"
@@ -18,25 +18,6 @@
 namespace jorv {
 
 namespace {
-
-using Zeitworte = std::array<std::int16_t, 6>;  // year to second
-
-constexpr std::array<Wertname, 6> startworte = {{
-    {"Konvertierungsfehler beim Startjahr", "Startjahr", "Startjahr"},
-    {"Konvertierungsfehler beim Startmonat", "Startmonat", "Startmonat"},
-    {"Konvertierungsfehler beim Starttag", "Starttag", "Starttag"},
-    {"Konvertierungsfehler bei der Startstunde", "Die Startstunde", "Startstunde"},
-    {"Konvertierungsfehler bei der Startminute", "Die Startminute", "Startminute"},
-    {"Konvertierungsfehler bei der Startsekunde", "Die Startsekunde", "Startsekunde"},
-}};
-constexpr std::array<Wertname, 6> endworte = {{
-    {"Konvertierungsfehler beim Endjahr", "Endjahr", "Endjahr"},
-    {"Konvertierungsfehler beim Endmonat", "Endmonat", "Endmonat"},
-    {"Konvertierungsfehler beim Endtag", "Endtag", "Endtag"},
-    {"Konvertierungsfehler bei der Endstunde", "Die Endstunde", "Endstunde"},
-    {"Konvertierungsfehler bei der Endminute", "Die Endminute", "Endminute"},
-    {"Konvertierungsfehler bei der Endsekunde", "Die Endsekunde", "Endsekunde"},
-}};
 
 // What each class is called where it goes wrong.
 struct Artworte {
@@ -54,81 +35,16 @@ const Artworte& worte_von(Punktart art)
     return artworte[static_cast<std::size_t>(art)];
 }
 
-struct Kopf {
-    double X = 0, Y = 0, Z = 0;
-    std::string Antenne;
-    std::int32_t Typen = 0, Intervall = 0;
-    Zeitworte Start{}, Ende{};
-    bool abgeschlossen = false;  // END OF HEADER was met
-};
-
-bool zeit_holen(Global& g, std::string_view zeile, const std::array<Wertname, 6>& namen, const Leseort& ort,
-                Zeitworte& zeit)
-{
-    for (std::size_t i = 0; i < zeit.size(); ++i) {
-        const auto zahl = ganz16_holen(g, zeile, static_cast<int>(i) + 1, namen[i], ort);
-        if (!zahl) return false;
-        zeit[i] = *zahl;
-    }
-    return true;
-}
-
-// One header line into the fields; false after a message.
-bool kopfzeile_lesen(Global& g, std::string_view zeile, const Leseort& ort, Kopf& kopf)
-{
-    if (ist_kopfzeile(zeile, "COMMENT")) return true;
-    if (ist_kopfzeile(zeile, "APPROX POSITION XYZ")) return xyz_holen(g, zeile, 1, ort, kopf.X, kopf.Y, kopf.Z);
-    if (ist_kopfzeile(zeile, "TIME OF FIRST OBS")) return zeit_holen(g, zeile, startworte, ort, kopf.Start);
-    if (ist_kopfzeile(zeile, "TIME OF LAST OBS")) return zeit_holen(g, zeile, endworte, ort, kopf.Ende);
-    if (ist_kopfzeile(zeile, "ANT # / TYPE"))
-        kopf.Antenne = ersetzt(std::string(links(zeile, 40)), ',', '.');
-    else if (ist_kopfzeile(zeile, "# / TYPES OF OBSERV") && kopf.Typen == 0)
-        kopf.Typen = typen_lesen(zeile);
-    else if (ist_kopfzeile(zeile, "INTERVAL"))
-        kopf.Intervall = ganz32(zahl_lesen(ersetzt(std::string(links(zeile, 6)), ',', '.'))).value_or(0);
-    else if (ist_kopfzeile(zeile, "END OF HEADER"))
-        kopf.abgeschlossen = true;
-    return true;
-}
-
-// The last epoch gives a two-digit year, which lies in the century of the start.
-bool endzeit_aus_epoche(Global& g, std::string_view zeile, const Leseort& ort, Kopf& kopf)
-{
-    const auto jahr = zahl_holen(g, zeile, 1, endworte[0], ort);
-    if (!jahr) return false;
-    const auto mit_jahrhundert = ganz16(std::floor(kopf.Start[0] / 100.0) * 100 + *jahr);
-    if (!mit_jahrhundert) {
-        stop_melden(g, wort_meldung(endworte[0], Wortfehler::konvertierung, ort.datei, ort.zeile));
-        return false;
-    }
-    kopf.Ende[0] = *mit_jahrhundert;
-    for (std::size_t i = 1; i < kopf.Ende.size(); ++i) {
-        const auto zahl = ganz16_holen(g, zeile, static_cast<int>(i) + 1, endworte[i], ort);
-        if (!zahl) return false;
-        kopf.Ende[i] = *zahl;
-    }
-    return true;
-}
-
-std::optional<Kopf> kopf_lesen(Global& g, const std::string& name)
+std::optional<Rinexkopf> kopf_lesen(Global& g, const std::string& name)
 {
     const auto datei = beobachtungsdatei_oeffnen(g, name, "Die Beobachtungsdatei:");
     if (!datei) return std::nullopt;
-    Kopf kopf;
-    Zeilenstrom strom(datei->abbild.text());
-    while (!kopf.abgeschlossen) {
-        const auto zeile = strom.naechste();
-        if (!zeile) break;
-        if (!kopfzeile_lesen(g, *zeile, {name, strom.nummer()}, kopf)) return std::nullopt;
-    }
-    if (kopf.abgeschlossen && kopf.Ende[0] != 0) return kopf;
-    auto epochen = epochen_abtasten(strom, kopf.Typen);
-    if (!endzeit_aus_epoche(g, epochen.letzte_Zeile, {name, strom.nummer()}, kopf)) return std::nullopt;
-    if (kopf.abgeschlossen) g.abtastung = Abtastung{datei->kennung, std::move(epochen.Satelliten)};
+    auto kopf = rinexkopf_lesen(g, datei->abbild.text(), name);
+    if (kopf && kopf->Satelliten) g.abtastung = Abtastung{datei->kennung, std::move(*kopf->Satelliten)};
     return kopf;
 }
 
-bool kopf_pruefen(Global& g, const Kopf& kopf, std::string_view name)
+bool kopf_pruefen(Global& g, const Rinexkopf& kopf, std::string_view name)
 {
     struct Pruefung {
         bool fehlt;
@@ -186,14 +102,14 @@ bool vergroessern(Global& g, Punktart art)
     return false;
 }
 
-std::int32_t hhmmss(const Zeitworte& zeit)
+std::int32_t hhmmss(const Kopfzeit& zeit)
 {
     std::string ziffern;
     for (std::size_t i = 3; i < zeit.size(); ++i) ziffern += zahl_format_fuell(zeit[i], "00", "0");
     return ganz32(zahl_lesen(ziffern)).value_or(0);
 }
 
-void obs_fuellen(OBS& obs, const Kopf& kopf)
+void obs_fuellen(OBS& obs, const Rinexkopf& kopf)
 {
     const auto& a = kopf.Start;
     const auto& e = kopf.Ende;

@@ -60,16 +60,18 @@ int zweistellig(std::string_view zeile, std::size_t spalte)
     return (feld[0] == ' ' ? 0 : 10 * (feld[0] - '0')) + (feld[1] - '0');
 }
 
-// " yy mm dd hh mm ss.sssssss": years from 80 on are of the last century.
+// " yy mm dd hh mm ss.sssssss": years from 80 on are of the last century; a second of 60 is allowed.
 std::optional<double> epochenzeit(std::string_view zeile)
 {
     constexpr int jahrhundertwende = 80;
     const int jahr = zweistellig(zeile, 2), monat = zweistellig(zeile, 5), tag = zweistellig(zeile, 8),
               stunde = zweistellig(zeile, 11), minute = zweistellig(zeile, 14);
+    const double sekunde = zahl_lesen(mitte(zeile, 16, 11));
     if (jahr < 0 || monat < 1 || monat > 12 || tag < 1 || tag > 31 || stunde < 0 || minute < 0) return std::nullopt;
+    if (!(sekunde >= 0 && sekunde < 61)) return std::nullopt;
     const std::int64_t ganze =
         sekunden_seit_1970({jahr + (jahr < jahrhundertwende ? 2000 : 1900), monat, tag, stunde, minute, 0});
-    return static_cast<double>(ganze) + zahl_lesen(mitte(zeile, 16, 11));
+    return static_cast<double>(ganze) + sekunde;
 }
 
 // Finds the epoch lines among the lines that it is shown.

@@ -75,7 +75,7 @@ bool Stapel::laden(std::string_view pfad, const std::vector<std::string>& argume
 bool Stapel::ausfuehren(std::string_view pfad, const std::vector<std::string>& argumente)
 {
     if (!laden(pfad, argumente)) return false;
-    while (m_naechste < m_zeilen.size()) {
+    for (std::size_t n = 0; m_naechste < m_zeilen.size() && n < m_umfeld.zeilen_hoechstens; ++n) {
         const std::string zeile = m_zeilen[m_naechste++];
         zeile_ausfuehren(zeile);
     }

@@ -16,7 +16,8 @@ class Stapel {
 public:
     explicit Stapel(Umfeld& umfeld) : m_umfeld(umfeld) {}
 
-    /// Runs the batch file of that full DOS path to its end. `argumente` are %1, %2, ... False when it can't be read.
+    /// Runs the batch file of that full DOS path to its end, or to the limit of lines. `argumente` are %1, %2, ...
+    /// False when it can't be read.
     bool ausfuehren(std::string_view pfad, const std::vector<std::string>& argumente = {});
 
 private:

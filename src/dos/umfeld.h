@@ -2,6 +2,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +30,8 @@ struct Umfeld {
     std::chrono::seconds frist{600};  ///< a started program is ended after that time
     bool anzeige = true;              ///< lines are shown before they run
     int errorlevel = 0;
+    /// The batch ends behind so many lines, where a jump backwards must not run for ever.
+    std::size_t zeilen_hoechstens = std::numeric_limits<std::size_t>::max();
 
     /// The value of a variable without regard to case; empty when there is none.
     std::string variable(std::string_view name) const;

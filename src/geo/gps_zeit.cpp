@@ -53,15 +53,28 @@ Fehler wort_fehlt(Global& g, std::string_view kopf)
 
 }  // namespace
 
+std::optional<std::string_view> watime_tag(std::string_view antwort)
+{
+    const Wort wort = wort_finden(antwort, 3);
+    if (wort.status != Wortstatus::gefunden) return std::nullopt;
+    return ohne_ende(wort.text, 3);
+}
+
+std::optional<Zeitpunkt> watime_datum(std::string_view antwort)
+{
+    const Wort wort = wort_finden(antwort, 1);
+    return wort.status == Wortstatus::gefunden ? datum_lesen(wort.text) : std::nullopt;
+}
+
 Fehler gps_zeit_holen(Global& g, std::int16_t jahr, std::int16_t monat, std::int16_t tag, std::int16_t stunde,
                       std::int16_t minute, std::int16_t sekunde, std::string& gps_zeit)
 {
     std::string zeile = "WATIME", antwort;
     for (const std::int16_t wert : {jahr, monat, tag, stunde, minute, sekunde}) zeile += zahl_text_blank(wert);
     if (const Fehler fehler = watime(g, zeile + " > Jorv.tmp", antwort); ist_fehler(fehler)) return fehler;
-    const Wort wort = wort_finden(antwort, 3);
-    if (wort.status != Wortstatus::gefunden) return wort_fehlt(g, "(GPS-Zeit) fehlt in der Datums-Datei:");
-    gps_zeit = ohne_ende(wort.text, 3);
+    const auto gelesen = watime_tag(antwort);
+    if (!gelesen) return wort_fehlt(g, "(GPS-Zeit) fehlt in der Datums-Datei:");
+    gps_zeit = *gelesen;
     return Fehler::keiner;
 }
 
@@ -70,9 +83,8 @@ Fehler gps_datum_holen(Global& g, std::int16_t gps_woche, std::int16_t gps_tag, 
     std::string antwort;
     const std::string zeile = verkettet("WATIME ", int{gps_woche}, "/", int{gps_tag}, " > Jorv.tmp");
     if (const Fehler fehler = watime(g, zeile, antwort); ist_fehler(fehler)) return fehler;
-    const Wort wort = wort_finden(antwort, 1);
-    const auto gelesen = datum_lesen(wort.text);
-    if (wort.status != Wortstatus::gefunden || !gelesen) return wort_fehlt(g, "GPS-Datum fehlt in der Datums-Datei:");
+    const auto gelesen = watime_datum(antwort);
+    if (!gelesen) return wort_fehlt(g, "GPS-Datum fehlt in der Datums-Datei:");
     datum = *gelesen;
     return Fehler::keiner;
 }

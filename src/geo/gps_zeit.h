@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "modell/Global.h"
 #include "plattform/fehler.h"
@@ -15,5 +17,9 @@ Fehler gps_zeit_holen(Global& g, std::int16_t jahr, std::int16_t monat, std::int
 
 /// Date of a GPS week and day of the week (0 Sunday).
 Fehler gps_datum_holen(Global& g, std::int16_t gps_woche, std::int16_t gps_tag, Zeitpunkt& datum);
+
+/// Day of year and date out of an answer line of WATIME; nothing when the word is missing or no date.
+std::optional<std::string_view> watime_tag(std::string_view antwort);
+std::optional<Zeitpunkt> watime_datum(std::string_view antwort);
 
 }  // namespace jorv

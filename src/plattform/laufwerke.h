@@ -27,7 +27,7 @@ public:
     void vertreten(std::string_view dos_ordner, std::filesystem::path host_ordner);
 
     /// Host path of a DOS path; a path without root counts from the current directory. Nothing when there is no such
-    /// drive.
+    /// drive or when the path holds a NUL.
     std::optional<std::filesystem::path> host(std::string_view dos_pfad) const;
 
     /// DOS path of a host path (made absolute). Nothing when a name can't be held in Windows-1252.

@@ -162,6 +162,8 @@ std::vector<Laufwerke::Inhalt> Laufwerke::inhalt(const fs::path& ordner)
 
 std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const
 {
+    // To the system a NUL ends the name: what stands behind it would be lost, and with it the folder that was meant.
+    if (dos_pfad.find('\0') != std::string_view::npos) return std::nullopt;
     fs::path pfad;
     std::string_view rest = dos_pfad;
     if (const Zuordnung* zuordnung = laengste(rest)) {

@@ -54,6 +54,7 @@ std::vector<Laufwerke::Inhalt> Laufwerke::inhalt(const fs::path& ordner)
 
 std::optional<fs::path> Laufwerke::host(std::string_view dos_pfad) const
 {
+    if (dos_pfad.find('\0') != std::string_view::npos) return std::nullopt;
     return fs::path(reinterpret_cast<const char8_t*>(utf8_aus_1252(dos_pfad).c_str()));
 }
 

@@ -1,5 +1,6 @@
 #include "projekt/projektdatei_lesen.h"
 
+#include <algorithm>
 #include <array>
 
 #include "modell/Gemeinsam.h"
@@ -159,9 +160,12 @@ void fenster_lesen(Global& g, const Profil& profil)
     const std::array<Wert, 5> werte = {
         {{"Y-min", &g.Y_min}, {"Y-max", &g.Y_max}, {"X-min", &g.X_min}, {"X-max", &g.X_max}, {"Faktor", &g.Faktor}}};
     g.Grafik_Fenster_gelesen = false;
-    for (const auto& wert : werte)
-        if (!zahl_streng(profil.wert("GRAFIK-FENSTER", wert.schluessel))) return;
-    for (const auto& wert : werte) *wert.ziel = zahl_lesen(profil.wert("GRAFIK-FENSTER", wert.schluessel));
+    const auto gelesen = [&](const Wert& wert) {
+        const auto zahl = zahl_streng(profil.wert("GRAFIK-FENSTER", wert.schluessel));
+        return zahl ? reihenzahl(*zahl) : std::nullopt;
+    };
+    if (!std::all_of(werte.begin(), werte.end(), gelesen)) return;
+    for (const auto& wert : werte) *wert.ziel = *gelesen(wert);
     g.Grafik_Fenster_gelesen = g.Y_max > g.Y_min && g.X_max > g.X_min && g.Faktor > 0;
 }
 

@@ -32,9 +32,11 @@ public:
         m_zeile += text;
         return *this;
     }
-    Wortreihe& name(std::string_view text)
+    Wortreihe& name(std::string_view text) { return hat_trenner(text) ? wort(als_wort(text)) : wort(text); }
+    // Always in quotes; one inside would end the word.
+    Wortreihe& zitat(std::string_view text)
     {
-        return text.find(' ') == std::string_view::npos ? wort(text) : wort(als_wort(text));
+        return wort(verkettet("\"", ersetzt(std::string(text), '"', '\''), "\""));
     }
     Wortreihe& ganz(std::int32_t wert)
     {
@@ -62,7 +64,7 @@ std::string zeile(const GEO_Punkt_Satz& figur)
 std::string zeile(const OBS& o)
 {
     Wortreihe reihe;
-    reihe.name(o.Dateiname).name(o.Punktkennzeichen).ganz(o.Tag).wort(verkettet("\"", o.Antenne, "\""));
+    reihe.name(o.Dateiname).name(o.Punktkennzeichen).ganz(o.Tag).zitat(o.Antenne);
     for (const auto& z : {o.Startzeit(), o.Endzeit()})
         reihe.ganz(z.jahr).ganz(z.monat).ganz(z.tag).ganz(z.stunde).ganz(z.minute).ganz(z.sekunde);
     return reihe.ganz(o.Startzeit_GPS_Sekunde).ganz(o.Endzeit_GPS_Sekunde).fertig();
@@ -191,6 +193,12 @@ void alles_eintragen(const Global& g, Sektionsschreiber& ziel)
 
 }  // namespace
 
+void Verfahren_eintragen(const Global& g, Profil& profil)
+{
+    Sektionsschreiber ziel(g, profil);
+    alles_eintragen(g, ziel);
+}
+
 Fehler Verfahren_sichern(Global& g)
 {
     if (trimmen(g.Verfahrensname).empty()) {
@@ -202,8 +210,7 @@ Fehler Verfahren_sichern(Global& g)
     std::error_code fehler;
     Profil profil = Profil::aus_datei(g.dateien, g.Verfahrensdatei, fehler);
     if (!fehler) {
-        Sektionsschreiber ziel(g, profil);
-        alles_eintragen(g, ziel);
+        Verfahren_eintragen(g, profil);
         fehler = profil.schreiben(g.dateien, g.Verfahrensdatei);
     }
     if (!fehler) return Fehler::keiner;

@@ -3,6 +3,7 @@
 
 #include "modell/Global.h"
 #include "plattform/fehler.h"
+#include "plattform/profil.h"
 
 namespace jorv {
 
@@ -10,5 +11,8 @@ namespace jorv {
 /// lines survive; sections in g.ungelesene_Sektionen are left alone. A project that was not read to its end is not
 /// saved (that failure has been shown when it was opened). On a failure the old file is as it was.
 Fehler Verfahren_sichern(Global& g);
+
+/// Takes the open project into the image of its file.
+void Verfahren_eintragen(const Global& g, Profil& profil);
 
 }  // namespace jorv

@@ -64,10 +64,7 @@ Reihe& Reihe::text(std::string& ziel, Feldwort wort)
 
 Reihe& Reihe::zahl(double& ziel, Feldwort wort)
 {
-    return wandeln(ziel, wort, [](std::string_view t) {
-        const double wert = zahl_lesen(t);
-        return std::isfinite(wert) ? std::optional<double>(wert) : std::nullopt;
-    });
+    return wandeln(ziel, wort, [](std::string_view t) { return reihenzahl(zahl_lesen(t)); });
 }
 
 Reihe& Reihe::ganz(std::int16_t& ziel, Feldwort wort)
@@ -123,9 +120,16 @@ std::string_view Reihenquelle::holen(int n, std::string& puffer) const
     return puffer;
 }
 
+std::optional<double> reihenzahl(double wert)
+{
+    constexpr double zu_gross = 1e15, nichts = 1e-9;
+    if (!(std::fabs(wert) < zu_gross)) return std::nullopt;
+    return std::fabs(wert) < nichts ? 0 : wert;
+}
+
 std::string als_wort(std::string_view text)
 {
-    return text.find(' ') == std::string_view::npos ? std::string(text) : verkettet("\"", text, "\"");
+    return hat_trenner(text) ? verkettet("\"", text, "\"") : std::string(text);
 }
 
 }  // namespace jorv

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -122,7 +123,15 @@ Fehler sektion_lesen(Global& g, const Profil& profil, const Sektionsart& art, Fe
     return sektion_lesen(g, profil, art, feld, satz_lesen, [&](int neu) { wachstum_melden(g, art, neu); });
 }
 
-/// A token for a row: in double quotes when it holds a blank.
+/// A number that a row can carry and give back: nothing when it isn't finite or 1e15 and more, which would fill a row
+/// with digits; less than a millionth of a millimetre counts as none.
+std::optional<double> reihenzahl(double wert);
+
+/// A token for a row: in double quotes when it holds a delimiter of words.
 std::string als_wort(std::string_view text);
+inline bool hat_trenner(std::string_view text)
+{
+    return text.find(' ') != std::string_view::npos || text.find('\0') != std::string_view::npos;
+}
 
 }  // namespace jorv

@@ -117,6 +117,7 @@ Fehler Einstellungen_gesperrt::schreiben()
 void AlleVerfahernLaden(Global& g, const Profil& einstellungen)
 {
     g.Verfahren.leeren();
+    if (!einstellungen.hat_sektion(sektion_name)) return;
     for (int n = 1; n <= letzte_nummer; ++n) {
         const std::string nummer = nummer_text(n);
         if (einstellungen.wert(sektion_name, nummer).empty()) continue;

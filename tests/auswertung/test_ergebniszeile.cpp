@@ -40,6 +40,9 @@ TEST(Ergebnis, KeineErfundenenZahlen)
     sterne.replace(5, 15, "***************");
     for (const std::string& zeile : {std::string(), std::string(kurz.substr(0, 100)), sterne})
         EXPECT_FALSE(ergebnis_aus_zeile(zeile)) << zeile;
+    std::string riesig(kurz);
+    riesig.replace(38, 10, "     9E999");
+    EXPECT_EQ(ergebnis_aus_zeile(riesig)->Hoehe, 0);
 }
 
 TEST(Ergebnis, DieLetzteZeileDerDateiGilt)

@@ -45,7 +45,8 @@ TEST(Datendichten, ZeigenLueckenUndSatellitenUndMerkenSichDieDateien)
     Pruefstand p;
     Rinexprobe probe;
     probe.daten = epoche(0, 5) + epoche(15, 5) + epoche(30, 14) + epoche(75, 14) +  // three intervals are no gap
-                  epoche(121, 2) + epoche(136, 2, "6") + epoche(151, 2) + epoche(100, 9) + epoche(166, 2);
+                  epoche(121, 2) + epoche(136, 2, "6") + epoche(151, 2) + epoche(100, 9) +
+                  " 16  5  1  8  2      9E999  0  0\n" + epoche(166, 2);
     schreiben(p.pfad("a.16o"), probe.text());
     schreiben(p.pfad("leer.16o"), "");
     Datendichten dichten;

@@ -99,6 +99,20 @@ TEST(Katalog, LadenMitNamenUndLeerzeilen)
     EXPECT_EQ(s.g.TOREL_Punkt[3].Name, "");
 }
 
+TEST(Katalog, WasDieSpaltenFuelltUndBlanksHatKommtZurueck)
+{
+    Katalogstand s;
+    TOREL_Punkt_Satz west{"05 0", "Bad Ort", 0, 0, 1234567.125, -5000000.5, -3000000.25};
+    (void)s.g.TOREL_Punkt.anfuegen(west);
+    schreiben(s.datei(), katalog_als_text(s.g.TOREL_Punkt).value());
+    ASSERT_FALSE(ist_fehler(torel_coo_laden(s.g))) << s.schirm.einzige();
+    const auto& punkt = s.g.TOREL_Punkt[1];
+    EXPECT_EQ(punkt.PKZ, west.PKZ);
+    EXPECT_EQ(punkt.Name, west.Name);
+    EXPECT_EQ(punkt.Y, west.Y);
+    EXPECT_EQ(punkt.Z, west.Z);
+}
+
 TEST(Katalog, LadefehlerUndWasBleibt)
 {
     struct Fall {

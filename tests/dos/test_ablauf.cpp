@@ -131,6 +131,13 @@ TEST(Ablauf, geschuetzte_und_besondere_ziele)
     EXPECT_FALSE(std::filesystem::exists(probe.ort("g")));
 }
 
+TEST(Ablauf, eine_schleife_endet_an_der_grenze)
+{
+    Probe probe;
+    probe.umfeld.zeilen_hoechstens = 6;
+    EXPECT_EQ(probe.lauf(":a\necho x\ngoto a\n").aus, "x\r\nx\r\nx\r\n");
+}
+
 TEST(Ablauf, andere_batchdatei_ersetzt)
 {
     Probe probe;

@@ -77,6 +77,14 @@ TEST(Ordner, anlegen_und_entfernen)
     });
 }
 
+TEST(Ordner, ein_name_mit_nul_meint_keinen_anderen)
+{
+    Probe probe;
+    probe.anlegen({"a\\b=1"});
+    probe.lauf(std::string_view("rmdir /s/q \"..\0x\"\ndel /q a\0\\b\necho x > a\\b\0\nrmdir /s/q a\0\n", 58));
+    EXPECT_EQ(probe.baum(), (std::vector<std::string>{"a\\b=1"}));
+}
+
 TEST(Ordner, schreibgeschuetztes_wird_mit_entfernt)
 {
     Probe probe;

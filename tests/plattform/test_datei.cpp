@@ -163,6 +163,8 @@ TEST(Datei, LaufwerkeUndFreigabenStehenInDerTabelle)
     EXPECT_EQ(laufwerke.dos(ordner.wurzel() / "q"), "\\\\srv\\netz\\q");
     EXPECT_TRUE(dateien.schreiben("E:\\a.txt", alt));
     EXPECT_FALSE(dateien.vorhanden("\\\\srv\\anderes\\a"));
+    // Cut at the NUL this would be the folder itself.
+    EXPECT_FALSE(laufwerke.host(std::string_view("D:\\\0a", 5)));
     EXPECT_EQ(laufwerke.alle(), (std::vector<std::string>{"D:", "Z:", "\\\\srv\\netz"}));
     EXPECT_EQ(Laufwerke().dos("/"), "Z:\\");
     EXPECT_FALSE(Laufwerke().dos("/tmp/\xE4\xB8\xAD"));

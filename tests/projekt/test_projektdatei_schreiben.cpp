@@ -56,6 +56,25 @@ TEST(Sichern, EinVollesProjektKommtFeldFuerFeldZurueck)
     EXPECT_EQ(in_verfahren(p), bytes);
 }
 
+TEST(Sichern, WasEineZeileZerrisseKommtHeilZurueck)
+{
+    Pruefstand p("3");
+    OBS obs = beobachtung("5501001a.14o", "08:00:00", "09:00:00");
+    obs.Antenne = "7 \"neu\"             LEIAX1202GG     NONE";
+    (void)p.g.OBS_R.anfuegen(obs);
+    (void)p.g.RINEX_Dateien.anfuegen(std::string("a\0b.14o", 8));
+    ASSERT_EQ(Verfahren_sichern(p.g), Fehler::keiner);
+    const Profil profil(in_verfahren(p));
+    ASSERT_EQ(Dateidaten_OBS_lesen(p.g, profil, "ROVER-OBS"), Fehler::keiner) << p.schirm.einzige();
+    EXPECT_EQ(p.g.OBS_R[1].Antenne, "7 'neu'             LEIAX1202GG     NONE");
+    EXPECT_EQ(p.g.OBS_R[1].Startzeit(), obs.Startzeit());
+    ASSERT_EQ(Dateidaten_RINEX_lesen(p.g, profil), Fehler::keiner);
+    EXPECT_EQ(p.g.RINEX_Dateien[1].size(), 8u);
+    // Numbers whose digits would fill a row are none.
+    const Profil riesig("[ROVER-VIRT]\r\n1=a b 1 1e300\r\n[GRAFIK-FENSTER]\r\nY-min=1\r\nY-max=1e99\r\n");
+    EXPECT_EQ(Dateidaten_ROVER_VIRT_lesen(p.g, riesig), Fehler::gesetzt);
+}
+
 TEST(Sichern, DieSektionenStehenInIhrerReihenfolge)
 {
     Pruefstand p;

@@ -8,6 +8,7 @@ programme=$bau/programme
 beispiel=${JORV_BEISPIEL:-$wurzel/bau/beispiel}
 pakete=(g++ cmake ninja-build ccache libgeographiclib-dev libgtest-dev libgmock-dev libbenchmark-dev
     nlohmann-json3-dev rtklib qt6-base-dev qt6-translations-l10n)
+pakete_lang=(clang-14 libclang-rt-14-dev)
 kerne=$(nproc)
 
 hilfe() {
@@ -15,7 +16,8 @@ hilfe() {
 ./jorv.sh beispiel        richtet ein, baut, erzeugt ein Beispielnetz, wertet es aus und vergleicht mit der Wahrheit
 ./jorv.sh start [beispiel]
                           richtet ein, baut und öffnet das Fenster, mit "beispiel" auf dem erzeugten Beispiel
-./jorv.sh test [--lang]   richtet ein, baut und prüft alles; --lang nimmt die langen Prüfungen dazu
+./jorv.sh test [--lang]   richtet ein, baut und prüft alles; --lang nimmt die langen Prüfungen dazu und füttert
+                          danach jeden Leser 60 Sekunden lang mit zufälligen Bytes (fuzz/)
 ./jorv.sh paket           richtet ein, baut und packt das Debian-Paket, nennt seinen Pfad
 ./jorv.sh pfad            nennt den Ordner der gebauten Programme
 TEXT
@@ -59,7 +61,16 @@ bauen() {
     cmake --build "$bau" -j "$kerne" ${1:+--target "$@"}
 }
 
+fuettern() {
+    schritt "Leser mit zufälligen Bytes füttern"
+    cd "$wurzel"
+    [[ -f bau/fuzz/build.ninja ]] || cmake --preset fuzz
+    cmake --build bau/fuzz -j "$kerne" --target fuzz_ziele
+    fuzz/lauf.sh "${JORV_FUZZ_SEKUNDEN:-60}"
+}
+
 pruefen() {
+    [[ ${1:-} != --lang ]] || pakete+=("${pakete_lang[@]}")
     einrichten
     bauen
     schritt "Prüfen"
@@ -71,6 +82,7 @@ pruefen() {
     mkdir -p "$JORV_MELDUNGEN"
     ctest --test-dir "$bau" -j "$kerne" --output-on-failure --no-tests=error -LE "$ohne"
     ctest --test-dir "$bau" --output-on-failure --no-tests=error -L schluss
+    [[ ${1:-} != --lang ]] || fuettern
 }
 
 vorfuehren() {

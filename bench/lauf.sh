@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The run's own cost per rover against the solver's time, on the shipped example:
+# The run's own cost per rover against the solver's time, on the shipped example, one rover after the other:
 #   bench/lauf.sh [BUILD FOLDER]
 # Prints the run's wall time, the solver's share of it, what the start of the solver's clock costs (loeseruhr.cpp; a run
 # without measuring doesn't have it), and the rest as a ratio.
@@ -13,6 +13,7 @@ mkdir "$ordner/bin"
 ln -s "$bau/bench/loeseruhr" "$ordner/bin/rnx2rtkp"
 export JORV_LOESER JORV_LOESERZEIT=$ordner/zeiten
 JORV_LOESER=$(command -v rnx2rtkp)
+printf '[GRUNDEINSTELLUNGEN]\r\nGleichzeitig=1\r\n' >"$ordner/JorvPlus.INI"
 "$bau/programme/jorv-simulator" beispiel "$ordner/netz" >/dev/null
 befehl() { "$jorv" --einstellungen "$ordner/JorvPlus.INI" --ja "$@" 2>>"$ordner/meldungen"; }
 nummer=$(befehl neu Messung --modus E --verzeichnis "$ordner/verfahren")

@@ -4,8 +4,8 @@
 
 #include <chrono>
 
+#include "bench/messprojekt.h"
 #include "hilfen/Projekt.h"
-#include "projekt/Vollprojekt.h"
 #include "projekt/projektdatei_lesen.h"
 #include "projekt/projektdatei_schreiben.h"
 
@@ -13,21 +13,6 @@ using namespace jorv;
 using namespace jorv::hilfen;
 
 namespace {
-
-void fuellen(Global& g, int rover_zahl)
-{
-    for (int i = 1; i <= rover_zahl; ++i) {
-        const std::string name = verkettet(i, "001a.14o");
-        (void)g.OBS_R.anfuegen(volle_beobachtung(name, 1));
-        (void)g.R_Punkt.anfuegen(voller_punkt(verkettet(i), i));
-        (void)g.ROVER_Settings.anfuegen(volle_einstellung(name, 20));
-        ROVER_TOREL_Satz zeile;
-        zeile.ROVER_Dateiname = name;
-        zeile.Anzahl = 3;
-        zeile.TOREL_Dateiname = {"0590001a.14o", "0591001a.14o", "0592001a.14o", ""};
-        (void)g.ROVER_TOREL.anfuegen(zeile);
-    }
-}
 
 double sekunden(std::chrono::steady_clock::time_point seit)
 {
@@ -47,7 +32,7 @@ Fehler laden(Global& g)
 void SichernUndLaden(benchmark::State& zustand)
 {
     Pruefstand p;
-    fuellen(p.g, static_cast<int>(zustand.range(0)));
+    messen::volle_rover(p.g, static_cast<int>(zustand.range(0)));
     if (ist_fehler(Verfahren_sichern(p.g))) return zustand.SkipWithError("save");
     double sichern_s = 0, laden_s = 0, kopieren_s = 0;
     for (auto _ : zustand) {

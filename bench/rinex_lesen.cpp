@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "bench/messdatei.h"
 #include "daten/datendichte.h"
 #include "daten/punkt_info.h"
 #include "daten/satelliten.h"
@@ -17,77 +18,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Stumm final : public jorv::Oberflaeche {
-public:
-    void meldung(jorv::Symbol, std::string_view, std::string_view) override {}
-    jorv::Antwort frage(jorv::Symbol, std::string_view, jorv::Antwort vorgabe, std::string_view) override
-    {
-        return vorgabe;
-    }
-    void fortschritt_zeigen(std::string_view) override {}
-    void fortschritt_setzen(double) override {}
-    void fortschritt_verbergen() override {}
-    bool ereignisse() override { return false; }
-    bool im_editor_oeffnen(std::string_view) override { return false; }
-    std::optional<jorv::Dateiwahl> dateien_waehlen(jorv::Dateiart, std::string_view) override { return std::nullopt; }
-    void neues_verfahren(const jorv::Verfahrenswahl&, std::string_view, const jorv::Verfahrensanlage&) override {}
-};
-
-void rechts(std::string& ziel, long zahl, std::size_t breite)
-{
-    const std::string text = std::to_string(zahl);
-    if (text.size() < breite) ziel.append(breite - text.size(), ' ');
-    ziel += text;
-}
-
-std::string kopf()
-{
-    std::string text;
-    const auto zeile = [&text](std::string inhalt, const char* marke) {
-        inhalt.resize(60, ' ');
-        text += inhalt + marke + "\n";
-    };
-    zeile("     2.11           OBSERVATION DATA    M (MIXED)", "RINEX VERSION / TYPE");
-    zeile("  3783000.1234   901600.1234  5038200.1234", "APPROX POSITION XYZ");
-    zeile("00001               LEIAR25.R4      LEIT", "ANT # / TYPE");
-    zeile("     5    C1    L1    L2    P2    S1", "# / TYPES OF OBSERV");
-    zeile("  2026     1     1     0     0    0.0000000     GPS", "TIME OF FIRST OBS");
-    zeile("", "END OF HEADER");
-    return text;
-}
-
-// Epochs of 13 satellites, so that each has a continuation line.
-void datei_schreiben(const fs::path& pfad)
-{
-    constexpr long epochen = 86400, satelliten = 13;
-    std::ofstream strom(pfad, std::ios::binary);
-    strom << kopf();
-    for (long e = 0; e < epochen; ++e) {
-        std::string text = " 26  1  1";
-        rechts(text, e / 3600, 3), rechts(text, e / 60 % 60, 3), rechts(text, e % 60, 3);
-        text += ".0000000  0 13";
-        for (long s = 0; s < satelliten; ++s) {
-            if (s == 12) text += "\n" + std::string(32, ' ');
-            text += s < 7 ? 'G' : 'R';
-            rechts(text, 1 + (s + e / 7200) % 24, 2);
-        }
-        text += "\n";
-        for (long s = 0; s < satelliten; ++s) {
-            for (const long takt : {1L, 5L, 4L, 3L, 2L}) {
-                rechts(text, 20000000 + (e * 7919 + s * 104729) % 5000000 * takt, 10);
-                text += ".123 7";
-            }
-            text += "\n";
-        }
-        strom << text;
-    }
-}
-
 struct Messdatei {
     Messdatei() : ordner(fs::temp_directory_path() / "jorv-rinex-lesen")
     {
         fs::create_directories(ordner);
-        datei_schreiben(ordner / name);
+        jorv::messen::datei_schreiben(ordner / name, 86400);
     }
     Messdatei(const Messdatei&) = delete;
     Messdatei& operator=(const Messdatei&) = delete;
@@ -120,7 +55,7 @@ void zeilen_zaehlen(benchmark::State& zustand)
 
 void beide_leser(benchmark::State& zustand)
 {
-    Stumm schirm;
+    jorv::messen::Stumm schirm;
     const jorv::Systemuhr uhr;
     jorv::Global g(schirm, uhr, jorv::Dateisystem());
     g.Verfahrensname = "Messung";
@@ -141,7 +76,7 @@ void beide_leser(benchmark::State& zustand)
 // What the windows with time bars read, from nothing each time.
 void datendichte(benchmark::State& zustand)
 {
-    Stumm schirm;
+    jorv::messen::Stumm schirm;
     const jorv::Systemuhr uhr;
     jorv::Global g(schirm, uhr, jorv::Dateisystem());
     g.Arbeitsverzeichnis = jorv::Laufwerke().dos(messdatei().ordner).value();

@@ -1,0 +1,107 @@
+// Our side of the comparison in vergleich.sh: times of single operations, each the best of several.
+//   bench_vergleich datei DATEI EPOCHEN | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+#include "bench/messdatei.h"
+#include "bench/messprojekt.h"
+#include "daten/punkt_info.h"
+#include "daten/satelliten.h"
+#include "hilfen/Projekt.h"
+#include "plattform/abbild.h"
+#include "plattform/kalender.h"
+#include "projekt/projektdatei_lesen.h"
+#include "projekt/projektdatei_schreiben.h"
+#include "suite/rinex_beobachtung.h"
+
+namespace {
+
+using namespace jorv;
+namespace fs = std::filesystem;
+
+// Milliseconds; nothing printed when the operation failed.
+int beste(const char* name, int laeufe, const std::function<bool()>& tun)
+{
+    double ms = 1e12;
+    for (int i = 0; i < laeufe; ++i) {
+        const auto beginn = std::chrono::steady_clock::now();
+        if (!tun()) return 1;
+        ms = std::min(ms, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - beginn).count());
+    }
+    std::printf("%s %.3f\n", name, ms);
+    return 0;
+}
+
+int werte(const fs::path& datei)
+{
+    std::size_t anzahl = 0;
+    const int status = beste("werte", 5, [&] {
+        std::error_code fehler;
+        const Abbild bild(datei, fehler);
+        std::string grund;
+        const auto gelesen =
+            suite::beobachtung_lesen(bild.text(), suite::Umfang::alles, grund, {}, suite::Systeme::gps_glonass);
+        if (!gelesen) return false;
+        anzahl = 0;
+        for (const auto& m : gelesen->messungen)
+            for (const double w : m.wert) anzahl += w != 0.0 ? 1 : 0;
+        return anzahl > 0;
+    });
+    std::printf("anzahl %zu\n", anzahl);
+    return status;
+}
+
+// Header, end time and, when wanted, the satellites: what the intake does with a rover's file.
+int aufnehmen(const fs::path& datei, bool satelliten)
+{
+    messen::Stumm schirm;
+    const Systemuhr uhr;
+    Global g(schirm, uhr, Dateisystem());
+    g.Verfahrensname = "Messung";
+    g.Verfahrensmodus = "4";
+    g.Arbeitsverzeichnis = Laufwerke().dos(datei.parent_path()).value_or("");
+    const std::string name = datei.filename().string();
+    return beste(satelliten ? "satelliten" : "kopf", 5, [&] {
+        g.OBS_R.leeren(), g.R_Punkt.leeren(), g.ROVER_Settings.leeren();
+        if (ist_fehler(punkt_info_lesen(g, name))) return false;
+        return !satelliten || !ist_fehler(satelliten_lesen(g, name));
+    });
+}
+
+bool laden(Global& g)
+{
+    Profil profil;
+    const std::string datei = g.Verfahrensdatei;
+    if (ist_fehler(Projektdatei_laden(g, datei, profil))) return false;
+    Verfahren_lesen(g, datei, profil);
+    return !ist_fehler(Dateidaten_lesen(g, profil));
+}
+
+int sichern(int rover_zahl)
+{
+    hilfen::Pruefstand p;
+    messen::volle_rover(p.g, rover_zahl);
+    if (ist_fehler(Verfahren_sichern(p.g))) return 1;
+    const auto bytes = p.g.dateien.lesen(p.g.Verfahrensdatei).value_or("");
+    std::printf("bytes %zu\n", bytes.size());
+    return beste("sichern", 9, [&] { return !ist_fehler(Verfahren_sichern(p.g)); }) +
+           beste("roh", 9, [&] { return !p.g.dateien.schreiben(im_Verfahren(p.g, "kopie"), bytes); }) +
+           beste("laden", 9, [&] { return laden(p.g); });
+}
+
+}  // namespace
+
+int main(int anzahl, char** worte)
+{
+    const std::string was = anzahl > 2 ? worte[1] : "";
+    if (was == "datei" && anzahl == 4) return messen::datei_schreiben(worte[2], std::atol(worte[3])), 0;
+    if (was == "werte") return werte(fs::absolute(worte[2]));
+    if (was == "satelliten" || was == "kopf") return aufnehmen(fs::absolute(worte[2]), was == "satelliten");
+    if (was == "sichern") return sichern(std::atoi(worte[2]));
+    std::fputs("bench_vergleich datei DATEI EPOCHEN | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER\n",
+               stderr);
+    return 2;
+}

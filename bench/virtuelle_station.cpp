@@ -1,8 +1,10 @@
 // What a virtual station is worth: rovers inside a simulated network whose truth is known, computed straight from the
 // nearest station, from that station moved to the rover, and from the network of two, three and four stations, under
-// a calm, a medium and a strong ionosphere. Prints one table row for each way.
-// With the variable JORV_EINZELN each solution and the runs that led to it.
-//   bench_virtuelle_station [count of seeds, 20] [minutes, 60] [first seed, 1]
+// a calm, a medium and a strong ionosphere. Prints one table row for each way; its last columns are the horizontal
+// error less that of the moved station in the same case, so that harm in single cases shows. With the variable
+// JORV_EINZELN each solution and the runs that led to it.
+//   bench_virtuelle_station [count of seeds, 20] [minutes, 60] [first seed, 1] [wechselnd]
+// With the last word each seed has one of the three lesser skies by turns, all in one table.
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -40,6 +42,7 @@ constexpr std::array<Weg, 5> WEGE = {{{"direkt", 0}, {"verschoben", 1}, {"Netz 2
 
 struct Zeile {
     std::vector<double> lage, hoehe, hoehe_mit_zeichen;  // mm
+    std::vector<double> gegen_verschoben;                // mm, horizontal, paired
     int l1 = 0, l0 = 0, offen = 0, ohne = 0, falsch = 0;
 };
 
@@ -89,7 +92,9 @@ simulator::Szenario szenario(std::uint64_t saat, double minuten)
     return s;
 }
 
-void rechnen(const hilfen::Arbeitsordner& temp, const simulator::Szenario& s, const Weg& weg, Zeile& zeile)
+// Returns the horizontal error in millimetres.
+std::optional<double> rechnen(const hilfen::Arbeitsordner& temp, const simulator::Szenario& s, const Weg& weg,
+                              Zeile& zeile)
 {
     const suite::Arbeitsordner ordner(temp.dos());
     const Festuhr uhr({2016, 12, 1, 12, 0, 0});
@@ -103,7 +108,7 @@ void rechnen(const hilfen::Arbeitsordner& temp, const simulator::Szenario& s, co
         const auto aufruf = suite::wav2_aufruf({name, stationen, "+A001.ATX"}, grund);
         if (suite::wav2(*aufruf, ordner, uhr, protokoll) != 0) {
             ++zeile.ohne;
-            return;
+            return {};
         }
         basis = aufruf->virt + name.substr(name.size() - 4);
     }
@@ -112,7 +117,7 @@ void rechnen(const hilfen::Arbeitsordner& temp, const simulator::Szenario& s, co
     const auto e = suite::loesung_lesen(hilfen::lesen(temp.host() / "wa2sol.txt"));
     if (status != 0 || !e) {
         ++zeile.ohne;
-        return;
+        return {};
     }
     const suite::Xyz wahr{rover.ort.x, rover.ort.y, rover.ort.z};
     const suite::Enu d = suite::enu(suite::Ort(wahr), e->rover - wahr);
@@ -131,6 +136,7 @@ void rechnen(const hilfen::Arbeitsordner& temp, const simulator::Szenario& s, co
     if (einzeln || falsch)
         std::printf("# Saat %d %s %s: Lage %s Hoehe %s mm\n", static_cast<int>(s.saat), weg.name,
                     e->loesungstyp.c_str(), fest(lage, 1).c_str(), fest(hoehe, 1).c_str());
+    return lage;
 }
 
 void ausgeben(const Himmel& himmel, const Weg& weg, const Zeile& z)
@@ -138,7 +144,8 @@ void ausgeben(const Himmel& himmel, const Weg& weg, const Zeile& z)
     std::string text = verkettet(himmel.name, " | ", weg.name, " | ", z.l1, " | ", z.l0, " | ", z.offen, " | ", z.ohne,
                                  " | ", z.falsch);
     for (const double wert : {quantil(z.lage, 0.5), quantil(z.lage, 0.95), quantil(z.lage, 1.0),
-                              quantil(z.hoehe_mit_zeichen, 0.5), quantil(z.hoehe, 0.5), quantil(z.hoehe, 0.95)})
+                              quantil(z.hoehe_mit_zeichen, 0.5), quantil(z.hoehe, 0.5), quantil(z.hoehe, 0.95),
+                              quantil(z.gegen_verschoben, 0.5), quantil(z.gegen_verschoben, 0.95)})
         text += verkettet(" | ", fest(wert, 1));
     std::puts(text.c_str());
     std::fflush(stdout);
@@ -154,12 +161,15 @@ int main(int anzahl, char** worte)
     std::printf("%d Saaten ab %d, %d Minuten; Lage und Hoehe in mm\n", saaten, erste, static_cast<int>(minuten));
     std::puts(
         "Ionosphaere | Weg | L1 | L0 | offen | ohne | falsch fest | Lage Median | 95 % | groesste | "
-        "Hoehe Median | Betrag Median | 95 %");
+        "Hoehe Median | Betrag Median | 95 % | gegen verschoben Median | 95 %");
+    constexpr std::size_t WECHSELNDE = 3;
+    const bool wechselnd = anzahl > 4 && std::string_view(worte[4]) == "wechselnd";
     for (const Himmel& himmel : HIMMEL) {
         std::array<Zeile, WEGE.size()> zeilen;
         for (int saat = erste; saat < erste + saaten; ++saat) {
             simulator::Szenario s = szenario(static_cast<std::uint64_t>(saat), minuten);
-            s.wirkungen.ionosphaere = himmel.ionosphaere;
+            const std::size_t welcher = static_cast<std::size_t>(saat) % WECHSELNDE;
+            s.wirkungen.ionosphaere = wechselnd ? HIMMEL[welcher].ionosphaere : himmel.ionosphaere;
             const hilfen::Arbeitsordner temp;
             std::string meldung;
             if (!simulator::schreiben(s, temp.host(), meldung) ||
@@ -167,9 +177,15 @@ int main(int anzahl, char** worte)
                 std::puts(meldung.c_str());
                 return 1;
             }
-            for (std::size_t i = 0; i < WEGE.size(); ++i) rechnen(temp, s, WEGE[i], zeilen[i]);
+            std::array<std::optional<double>, WEGE.size()> lage;
+            for (std::size_t i = 0; i < WEGE.size(); ++i) {
+                lage[i] = rechnen(temp, s, WEGE[i], zeilen[i]);
+                if (i > 1 && lage[i] && lage[1]) zeilen[i].gegen_verschoben.push_back(*lage[i] - *lage[1]);
+            }
         }
-        for (std::size_t i = 0; i < WEGE.size(); ++i) ausgeben(himmel, WEGE[i], zeilen[i]);
+        const Himmel gemischt{"wechselnd", {}};
+        for (std::size_t i = 0; i < WEGE.size(); ++i) ausgeben(wechselnd ? gemischt : himmel, WEGE[i], zeilen[i]);
+        if (wechselnd) break;
     }
     return 0;
 }

@@ -25,6 +25,7 @@ struct Wav2Aufruf {
     int elevation = 10;                                      // degrees
     std::optional<int> beginn, ende;                         // time of day as HHMMSS
     Troposphaerenmodell modell = Troposphaerenmodell::voll;  // no option of the command line
+    bool ionosphaere = true;                                 // likewise
 };
 
 /// What +TL asks for.

@@ -21,6 +21,8 @@ constexpr std::string_view PROGRAMM = "wa2 1.0";
 constexpr double GLEICHZEITIG = 0.1;         // s between the tags of a common epoch
 constexpr double ZENIT_LAENGE = 10000.0;     // metres
 constexpr double ZENIT_HOEHE = 100.0;        // metres
+// What a network leaves of the zenith delay: freely estimated it would cost an hour's height two centimetres.
+constexpr double ZENIT_NETZ = 0.003, ZENIT_GANG_NETZ = 2e-5;  // metres, metres per root of a second
 constexpr int ZONE_WEIT = 6;                 // degrees from the central meridian
 constexpr double SEKUNDEN_JE_EPOCHE = 0.05;  // time limit of the solver, far above what it needs
 constexpr int SEKUNDEN_GRUND = 120;
@@ -210,6 +212,10 @@ bool Lauf::auftrag_fuellen()
     m_auftrag.elevation = m_aufruf.elevation;
     m_auftrag.ohne_satelliten = m_aufruf.ohne_satelliten;
     m_auftrag.zenit_schaetzen = m_laenge > ZENIT_LAENGE || std::abs(m_hoehenunterschied) > ZENIT_HOEHE;
+    if (m_netz) {
+        m_auftrag.zenit_sigma = ZENIT_NETZ;
+        m_auftrag.zenit_gang = ZENIT_GANG_NETZ;
+    }
     const auto epochen = static_cast<double>(m_rover.daten.epochen.size());
     m_umgebung.sekunden =
         std::min(m_umgebung.sekunden, SEKUNDEN_GRUND + static_cast<int>(SEKUNDEN_JE_EPOCHE * epochen));

@@ -76,8 +76,8 @@ void rauschen_setzen(Optionen& o, const Loeserauftrag& auftrag, const Laufwerte&
     o.setzen("stats-prnbias", 1e-4 * SIGMA_FAKTOR, 4);
     o.setzen("stats-stdiono", iono * (w.ionosphaere ? 0.5 : 0.3), 6);
     o.setzen("stats-prniono", iono * 0.01, 6);
-    o.setzen("stats-stdtrop", 0.3 * SIGMA_FAKTOR, 1);
-    o.setzen("stats-prntrop", 1e-4 * SIGMA_FAKTOR, 4);
+    o.setzen("stats-stdtrop", auftrag.zenit_sigma * SIGMA_FAKTOR, 3);
+    o.setzen("stats-prntrop", auftrag.zenit_gang * SIGMA_FAKTOR, 5);
 }
 
 std::string zeitwort(const GpsZeit& zeit, double rand)

@@ -36,6 +36,8 @@ struct Loeserauftrag {
     std::vector<std::string> ohne_satelliten;
     double solverlaenge = 1.0;     // metres between the two header positions
     bool zenit_schaetzen = false;  // troposphere parameters in the L0 runs
+    double zenit_sigma = 0.3;      // metres by which these may differ from the model
+    double zenit_gang = 1e-4;      // metres that they may move in the square root of a second
 };
 
 /// The option file of a run.

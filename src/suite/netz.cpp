@@ -13,15 +13,21 @@ namespace {
 
 constexpr double RAND = 1800.0;         // s by which the stations are read beyond the span: longer arcs fix better
 constexpr double HOECHSTGEWICHT = 1.5;  // sum of the weights' amounts; beyond it the plane is drawn out too far
+constexpr double AUSSERHALB = 15000.0;  // metres from the network; farther out what it says is a guess
 
 struct Gelesen {
     RinexBeobachtung daten;
     Ort ort;
     std::optional<Antennenblock> antenne;
 
-    std::vector<Restepoche> reste(const Bahnen& bahnen, bool kalibriert) const
+    std::array<std::vector<Restepoche>, 2> gerechnet;  // with and without the calibration
+
+    const std::vector<Restepoche>& reste(const Bahnen& bahnen, bool kalibriert)
     {
-        return stationsreste(daten, ort, Phasenzentrum(daten.kopf, kalibriert ? antenne : std::nullopt), bahnen);
+        auto& ziel = gerechnet[kalibriert ? 0 : 1];
+        if (ziel.empty())
+            ziel = stationsreste(daten, ort, Phasenzentrum(daten.kopf, kalibriert ? antenne : std::nullopt), bahnen);
+        return ziel;
     }
 };
 
@@ -38,7 +44,7 @@ public:
 
 private:
     std::optional<Gelesen> lesen(const Netzstation& station);
-    void paar(const Netzstation& station, const Gelesen& master);
+    void paar(const Netzstation& station, Gelesen& master);
     void ablehnen(std::string_view grund) { m_protokoll.zeile(verkettet("Netz             nicht benutzt: ", grund)); }
 
     const Netzauftrag& m_auftrag;
@@ -57,12 +63,12 @@ std::optional<Gelesen> Netzlauf::lesen(const Netzstation& station)
     const RinexKopf& kopf = datei->daten.kopf;
     auto block =
         antenne_suchen(m_antex.text(), kopf.antennennummer, kopf.antennentyp, datei->daten.epochen.front().zeit);
-    return Gelesen{std::move(datei->daten), Ort(station.ort), std::move(block)};
+    return Gelesen{std::move(datei->daten), Ort(station.ort), std::move(block), {}};
 }
 
-void Netzlauf::paar(const Netzstation& station, const Gelesen& master)
+void Netzlauf::paar(const Netzstation& station, Gelesen& master)
 {
-    const auto gelesen = lesen(station);
+    auto gelesen = lesen(station);
     if (!gelesen) {
         m_protokoll.warnung(verkettet("Die Station ", station.name, " hat im Zeitraum nicht beobachtet."));
         return;
@@ -93,31 +99,36 @@ void Netzlauf::paar(const Netzstation& station, const Gelesen& master)
 Netz Netzlauf::rechnen()
 {
     const auto& stationen = m_auftrag.stationen;
+    auto master = lesen(stationen.front());
+    if (!master) return {};
+    m_netz.ionosphaere = Ionosphaere(master->ort.blh, master->reste(m_bahnen, master->antenne.has_value()));
+    m_protokoll.zeile(verkettet(u8"Ionosphäre über "_w, stationen.front().name, "  ",
+                                fest(m_netz.ionosphaere.senkrecht(), 2), " m auf L1"));
     if (stationen.size() < 2) {
         ablehnen("nur eine Station");
-        return {};
+        return std::move(m_netz);
     }
-    const auto master = lesen(stationen.front());
-    if (!master) return {};
     m_protokoll.zeile("Netz, Festsetzung zwischen den Stationen");
     for (std::size_t i = 1; i < std::min(stationen.size(), NETZSTATIONEN); ++i) paar(stationen[i], *master);
     const auto& hilfen = m_netz.stationen;
     if (hilfen.empty()) {
         ablehnen(u8"keine zweite Station lässt sich festsetzen"_w);
-        return {};
+        return std::move(m_netz);
     }
     std::vector<Xyz> orte;
     for (const Hilfsstation& h : hilfen) orte.push_back(h.ort);
-    const auto gewichte = ebenengewichte(Ort(stationen.front().ort), m_auftrag.virtuell, orte);
+    const Ort master_ort(stationen.front().ort);
+    const auto gewichte = ebenengewichte(master_ort, m_auftrag.virtuell, orte);
     double summe = 0.0;
     for (std::size_t k = 0; k < gewichte.size(); ++k) {
         summe += std::abs(gewichte[k]);
         m_protokoll.zeile(verkettet("  Gewicht ", hilfen[k].name, " ", fest(gewichte[k], 3)));
     }
-    if (summe > HOECHSTGEWICHT)
+    if (summe > HOECHSTGEWICHT || abstand_vom_netz(master_ort, m_auftrag.virtuell, orte) > AUSSERHALB)
         ablehnen(u8"der Rover liegt zu weit außerhalb"_w);
     else
         m_netz.korrekturen = korrekturen(hilfen, gewichte);
+    m_netz.gewichte = gewichte;
     return std::move(m_netz);
 }
 

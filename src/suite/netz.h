@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "suite/arbeitsordner.h"
+#include "suite/ionosphaere.h"
 #include "suite/netz_interpolation.h"
 #include "suite/protokoll.h"
 
@@ -29,12 +30,14 @@ struct Netzauftrag {
 };
 
 struct Netz {
+    Ionosphaere ionosphaere;              // over the master
     std::vector<Hilfsstation> stationen;  // that are fixed to the master
+    std::vector<double> gewichte;         // of these in the corrections
     std::vector<Korrekturepoche> korrekturen;
 };
 
-/// The stations and the corrections of the network. No corrections, with the reason in the protocol, when no station
-/// beside the master can be used or the rover lies too far outside.
+/// The ionosphere, the stations and the corrections of the network. No corrections, with the reason in the protocol,
+/// when no station beside the master can be used or the rover lies too far outside.
 Netz netz_rechnen(const Netzauftrag& auftrag, const Bahnen& bahnen, const Arbeitsordner& ordner, Protokoll& protokoll);
 
 }  // namespace jorv::suite

@@ -7,8 +7,9 @@ namespace jorv::suite {
 
 namespace {
 
-constexpr double AUF_LINIE = 0.02;  // smaller to larger moment of the stations' places
-constexpr double NAH = 100.0;       // metres; a distance below it weighs no more
+constexpr double AUF_LINIE = 0.02;   // smaller to larger moment of the stations' places
+constexpr double NAH = 100.0;        // metres; a distance below it weighs no more
+constexpr std::int64_t LUECKE = 90;  // s between two epochs that bridge what lies between them
 
 // The weighted sums of the residuals of the satellites that all stations have.
 Korrekturepoche summen(const std::vector<const Paarepoche*>& epochen, const std::vector<double>& gewichte)
@@ -54,6 +55,32 @@ void anschliessen(Korrekturepoche& neu, const Korrekturepoche& alt)
     }
 }
 
+const Korrektur* korrektur_von(const Korrekturepoche& epoche, int satellit)
+{
+    const auto k = std::find_if(epoche.werte.begin(), epoche.werte.end(),
+                                [&](const Korrektur& a) { return a.satellit == satellit; });
+    return k == epoche.werte.end() ? nullptr : &*k;
+}
+
+// Twice the area of a triangle, positive when it turns to the left.
+double flaeche(const Enu& a, const Enu& b, const Enu& c)
+{
+    return (b.e - a.e) * (c.n - a.n) - (c.e - a.e) * (b.n - a.n);
+}
+
+bool im_dreieck(const Enu& p, const Enu& a, const Enu& b, const Enu& c)
+{
+    const double u = flaeche(p, a, b), v = flaeche(p, b, c), w = flaeche(p, c, a);
+    return (u > 0 && v > 0 && w > 0) || (u < 0 && v < 0 && w < 0);
+}
+
+double abstand_von_strecke(const Enu& p, const Enu& a, const Enu& b)
+{
+    const double de = b.e - a.e, dn = b.n - a.n, quadrat = de * de + dn * dn;
+    const double t = quadrat > 0 ? std::clamp(((p.e - a.e) * de + (p.n - a.n) * dn) / quadrat, 0.0, 1.0) : 0.0;
+    return std::hypot(p.e - a.e - t * de, p.n - a.n - t * dn);
+}
+
 }  // namespace
 
 const Paarrest* rest_von(const Paarepoche& epoche, int satellit)
@@ -92,6 +119,21 @@ std::vector<double> ebenengewichte(const Ort& master, const Xyz& virtuell, const
     return gewichte;
 }
 
+double abstand_vom_netz(const Ort& master, const Xyz& virtuell, const std::vector<Xyz>& stationen)
+{
+    const Enu v = enu(master, virtuell - master.xyz);
+    std::vector<Enu> ecken = {Enu{}};
+    for (const Xyz& ort : stationen) ecken.push_back(enu(master, ort - master.xyz));
+    double naechster = std::hypot(v.e, v.n);
+    for (std::size_t i = 0; i < ecken.size(); ++i)
+        for (std::size_t k = 0; k < i; ++k) {
+            naechster = std::min(naechster, abstand_von_strecke(v, ecken[i], ecken[k]));
+            for (std::size_t j = 0; j < k; ++j)
+                if (im_dreieck(v, ecken[i], ecken[k], ecken[j])) return 0.0;
+        }
+    return naechster;
+}
+
 std::vector<Korrekturepoche> korrekturen(const std::vector<Hilfsstation>& stationen,
                                          const std::vector<double>& gewichte)
 {
@@ -114,14 +156,22 @@ std::vector<Korrekturepoche> korrekturen(const std::vector<Hilfsstation>& statio
     return alle;
 }
 
-const Korrektur* korrektur_suchen(const std::vector<Korrekturepoche>& alle, std::int64_t sekunde, int satellit)
+std::optional<Korrektur> korrektur_bei(const std::vector<Korrekturepoche>& alle, const GpsZeit& zeit, int satellit)
 {
-    const auto e = std::lower_bound(alle.begin(), alle.end(), sekunde,
-                                    [](const Korrekturepoche& a, std::int64_t b) { return a.sekunde < b; });
-    if (e == alle.end() || e->sekunde != sekunde) return nullptr;
-    const auto k =
-        std::find_if(e->werte.begin(), e->werte.end(), [&](const Korrektur& a) { return a.satellit == satellit; });
-    return k == e->werte.end() ? nullptr : &*k;
+    const std::int64_t sekunde = auf_sekunde(zeit).sekunde;
+    const auto oben = std::lower_bound(alle.begin(), alle.end(), sekunde,
+                                       [](const Korrekturepoche& a, std::int64_t b) { return a.sekunde < b; });
+    if (oben == alle.end()) return {};
+    const Korrektur* b = korrektur_von(*oben, satellit);
+    if (!b) return {};
+    if (oben->sekunde == sekunde) return *b;
+    if (oben == alle.begin()) return {};
+    const auto unten = std::prev(oben);
+    const Korrektur* a = korrektur_von(*unten, satellit);
+    if (!a || oben->sekunde - unten->sekunde > LUECKE) return {};
+    const double anteil =
+        static_cast<double>(sekunde - unten->sekunde) / static_cast<double>(oben->sekunde - unten->sekunde);
+    return Korrektur{satellit, a->l1 + anteil * (b->l1 - a->l1), a->l2 + anteil * (b->l2 - a->l2)};
 }
 
 }  // namespace jorv::suite

@@ -42,12 +42,16 @@ const Paarrest* rest_von(const Paarepoche& epoche, int satellit);
 /// the stations' common line when they stand on one.
 std::vector<double> ebenengewichte(const Ort& master, const Xyz& virtuell, const std::vector<Xyz>& stationen);
 
+/// Metres from the figure that the stations span with the master; 0 inside.
+double abstand_vom_netz(const Ort& master, const Xyz& virtuell, const std::vector<Xyz>& stationen);
+
 /// Corrections in the epochs and for the satellites that are fixed at all stations. Those of an epoch share an offset
 /// on each frequency, which leaves their mean as it was an epoch ago.
 std::vector<Korrekturepoche> korrekturen(const std::vector<Hilfsstation>& stationen,
                                          const std::vector<double>& gewichte);
 
-/// The correction of a satellite at a time; nullptr without one.
-const Korrektur* korrektur_suchen(const std::vector<Korrekturepoche>& alle, std::int64_t sekunde, int satellit);
+/// The correction of a satellite at a time, between two epochs not far apart their mean by distance; nothing without
+/// one.
+std::optional<Korrektur> korrektur_bei(const std::vector<Korrekturepoche>& alle, const GpsZeit& zeit, int satellit);
 
 }  // namespace jorv::suite

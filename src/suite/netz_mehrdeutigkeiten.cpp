@@ -22,8 +22,10 @@ constexpr std::size_t BOGEN_EPOCHEN = 10;
 constexpr std::int64_t BOGEN_DAUER = 270;  // s
 constexpr double SIGMA = 0.010;            // of an ionosphere-free difference in the zenith each 30 s, metres
 constexpr double TAKT = 30.0;
-constexpr double SIGMA_ZENIT = 0.15, SIGMA_GANG = 0.03;  // metres, metres per hour
-constexpr double SICHER = 0.12, NAHE = 0.25;             // cycles
+// What is expected of the relative zenith delay: metres, metres per hour, gradients in metres.
+constexpr std::size_t LUFTWERTE = 4;
+constexpr std::array<double, LUFTWERTE> SIGMA_LUFT = {0.15, 0.03, 0.0005, 0.0005};
+constexpr double SICHER = 0.12, NAHE = 0.25;  // cycles
 constexpr double BRUCH_HOECHSTENS = 0.13;
 
 double code1(const Messung& m)
@@ -43,6 +45,13 @@ bool verloren(const Messung& m)
         return c >= '0' && c <= '9' && (c - '0') % 2 == 1;
     };
     return schlupf(Art::L1) || schlupf(Art::L2);
+}
+
+// Whether an epoch of observations in that interval is left out as too dense.
+bool zu_dicht(std::int64_t sekunde, double intervall)
+{
+    const bool im_takt = intervall > 0 && intervall < TAKT && std::abs(std::remainder(TAKT, intervall)) < 1e-3;
+    return im_takt && sekunde % static_cast<std::int64_t>(TAKT) != 0;
 }
 
 // The running number of a satellite's arc at one station.
@@ -82,6 +91,7 @@ public:
         r.c1 = code - eins;
         r.p2 = code2(m) - zwei;
         r.sinus = richtung.u;
+        r.azimut = std::atan2(richtung.e, richtung.n);
         r.feucht = m_niell.bei(hoehe).feucht;
         return r;
     }
@@ -99,6 +109,7 @@ struct Differenz {
     std::size_t bogen = 0;
     double l1 = 0, l2 = 0, weit = 0;  // metres; the last is phase wide lane less code narrow lane
     double sinus = 0, feucht = 0;
+    double nord = 0, ost = 0;  // what a gradient of the troposphere counts
     double frei() const { return B1 * l1 + B2 * l2; }
 };
 struct Differenzepoche {
@@ -120,7 +131,18 @@ Differenz differenz(const Rest& a, const Rest& b)
     const double l1 = b.l1 - a.l1, l2 = b.l2 - a.l2, c1 = b.c1 - a.c1, p2 = b.p2 - a.p2;
     const double weit = (FREQUENZ1 * l1 - FREQUENZ2 * l2) / (FREQUENZ1 - FREQUENZ2) -
                         (FREQUENZ1 * c1 + FREQUENZ2 * p2) / (FREQUENZ1 + FREQUENZ2);
-    return {a.satellit, 0, l1, l2, weit, std::min(a.sinus, b.sinus), (a.feucht + b.feucht) / 2.0};
+    // Chen and Herring (1997), Journal of Geophysical Research 102(B9): gradients count 1/(sin tan + 0.0032).
+    const double sinus = std::min(a.sinus, b.sinus);
+    const double schief = 1.0 / (sinus * sinus / std::sqrt(1.0 - sinus * sinus) + 0.0032);
+    return {a.satellit,
+            0,
+            l1,
+            l2,
+            weit,
+            sinus,
+            (a.feucht + b.feucht) / 2.0,
+            schief * std::cos(a.azimut),
+            schief * std::sin(a.azimut)};
 }
 
 double median(std::vector<double> werte)
@@ -289,12 +311,13 @@ void Paarrechner::weitspur()
         }
 }
 
-// Unknowns: one narrow-lane integer for each arc, then offset and hourly rate of the relative zenith delay.
+// Unknowns: one narrow-lane integer for each arc, then offset and hourly rate of the relative zenith delay and its
+// gradients.
 Normalgleichung Paarrechner::normalgleichung(double mitte) const
 {
     const std::size_t n = m_boegen.size();
-    Normalgleichung g(n + 2);
-    std::vector<double> summe(n + 2);
+    Normalgleichung g(n + LUFTWERTE);
+    std::vector<double> summe(n + LUFTWERTE);
     for (const Differenzepoche& e : m_epochen) {
         const double stunde = (static_cast<double>(e.sekunde) - mitte) / 3600.0;
         double gewichte = 0, summe_y = 0;
@@ -304,10 +327,10 @@ Normalgleichung Paarrechner::normalgleichung(double mitte) const
             const Bogen& b = m_boegen[d.bogen];
             if (!b.benutzt) continue;
             const double w = gewicht(d) / (SIGMA * SIGMA), y = d.frei() + B2 * LAMBDA2 * b.nw - b.anfang;
-            const std::array<std::size_t, 3> stelle = {d.bogen, n, n + 1};
-            const std::array<double, 3> x = {ENGSPUR, d.feucht, d.feucht * stunde};
-            for (std::size_t i = 0; i < 3; ++i) {
-                for (std::size_t k = 0; k < 3; ++k) g.bei(stelle[i], stelle[k]) += w * x[i] * x[k];
+            const std::array<std::size_t, 1 + LUFTWERTE> stelle = {d.bogen, n, n + 1, n + 2, n + 3};
+            const std::array<double, 1 + LUFTWERTE> x = {ENGSPUR, d.feucht, d.feucht * stunde, d.nord, d.ost};
+            for (std::size_t i = 0; i < x.size(); ++i) {
+                for (std::size_t k = 0; k < x.size(); ++k) g.bei(stelle[i], stelle[k]) += w * x[i] * x[k];
                 g.rechts(stelle[i]) += w * x[i] * y;
                 summe[stelle[i]] += w * x[i];
             }
@@ -316,15 +339,14 @@ Normalgleichung Paarrechner::normalgleichung(double mitte) const
             summe_y += w * y;
         }
         if (beteiligt.empty()) continue;
-        beteiligt.insert(beteiligt.end(), {n, n + 1});
+        beteiligt.insert(beteiligt.end(), {n, n + 1, n + 2, n + 3});
         for (const std::size_t i : beteiligt) {  // the epoch's clocks go out with the weighted mean
             for (const std::size_t k : beteiligt) g.bei(i, k) -= summe[i] * summe[k] / gewichte;
             g.rechts(i) -= summe[i] * summe_y / gewichte;
         }
     }
     for (std::size_t i = 0; i < n; ++i) g.bei(i, i) += 1e-8;  // arcs that nothing ties to the reference
-    g.bei(n, n) += 1.0 / (SIGMA_ZENIT * SIGMA_ZENIT);
-    g.bei(n + 1, n + 1) += 1.0 / (SIGMA_GANG * SIGMA_GANG);
+    for (std::size_t i = 0; i < LUFTWERTE; ++i) g.bei(n + i, n + i) += 1.0 / (SIGMA_LUFT[i] * SIGMA_LUFT[i]);
     return g;
 }
 
@@ -333,8 +355,8 @@ void Paarrechner::engspur(Paar& paar)
     const std::size_t n = m_boegen.size();
     const double mitte = static_cast<double>(m_epochen.front().sekunde + m_epochen.back().sekunde) / 2.0;
     const Normalgleichung g = normalgleichung(mitte);
-    std::vector<bool> frei(n + 2, true);
-    std::vector<double> gehalten(n + 2);
+    std::vector<bool> frei(n + LUFTWERTE, true);
+    std::vector<double> gehalten(n + LUFTWERTE);
     for (std::size_t i = 0; i < n; ++i) frei[i] = m_boegen[i].benutzt && i != m_bezug;
     m_boegen[m_bezug].fest = true;
     double quadrate = 0;
@@ -401,18 +423,20 @@ std::vector<Restepoche> stationsreste(const RinexBeobachtung& daten, const Ort& 
     std::vector<Restepoche> alle;
     if (daten.epochen.empty()) return alle;
     const Stationsrechner rechner(ort, zentrum, daten.epochen.front().zeit);
-    const double luecke = std::max(LUECKE, 3.0 * daten.intervall());
+    const double intervall = daten.intervall(), luecke = std::max(LUECKE, 3.0 * intervall);
     std::map<int, Faden> faeden;
     for (const Epoche& e : daten.epochen) {
         const GpsZeit nominell = auf_sekunde(e.zeit);
         if (e.kennung == 1)
             for (auto& [satellit, faden] : faeden) ++faden.bogen;
         Restepoche epoche{nominell.sekunde, {}};
+        const bool dicht = zu_dicht(nominell.sekunde, intervall);
         for (std::size_t i = 0; i < e.anzahl; ++i) {
             const Messung& m = daten.messungen[e.erste + i];
             Faden& faden = faeden[m.satellit];
             if (verloren(m) || (faden.zuletzt && abstand(e.zeit, *faden.zuletzt) > luecke)) ++faden.bogen;
             faden.zuletzt = e.zeit;
+            if (dicht) continue;
             if (m[Art::L1] == 0.0 || m[Art::L2] == 0.0 || code1(m) == 0.0 || code2(m) == 0.0) continue;
             const auto satz = bahnen.find(m.satellit);
             const Ephemeride* eph =
@@ -423,6 +447,7 @@ std::vector<Restepoche> stationsreste(const RinexBeobachtung& daten, const Ort& 
             rest->bogen = faden.bogen;
             epoche.reste.push_back(*rest);
         }
+        if (dicht) continue;
         std::sort(epoche.reste.begin(), epoche.reste.end(),
                   [](const Rest& a, const Rest& b) { return a.satellit < b.satellit; });
         const bool doppelt = !alle.empty() && alle.back().sekunde == epoche.sekunde;

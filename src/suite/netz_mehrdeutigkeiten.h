@@ -20,7 +20,7 @@ struct Rest {
     int satellit = 0;
     int bogen = 0;                          // counts the station's own interruptions of that satellite
     double l1 = 0, l2 = 0, c1 = 0, p2 = 0;  // metres
-    double sinus = 0;                       // of the elevation
+    double sinus = 0, azimut = 0;           // sine of the elevation, radians
     double feucht = 0;                      // mapping of a wet zenith delay
 };
 struct Restepoche {
@@ -28,7 +28,8 @@ struct Restepoche {
     std::vector<Rest> reste;   // by satellite
 };
 
-/// The residuals of all dual-frequency observations over 6 degrees.
+/// The residuals of all dual-frequency observations over 6 degrees; of denser ones those each half minute, which is
+/// what the atmosphere changes in.
 std::vector<Restepoche> stationsreste(const RinexBeobachtung& daten, const Ort& ort, const Phasenzentrum& zentrum,
                                       const Bahnen& bahnen);
 

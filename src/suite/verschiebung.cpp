@@ -47,7 +47,7 @@ Verschiebung Verschieber::rechnen(const Satellitenlage& lage, double code) const
     const double hoch_von = elevation(m_von, gedreht(sendung, dauer_von));
     const double hoch_nach = elevation(m_nach, satellit);
     const double luft = m_luft_nach.laufzeit(hoch_nach) - m_luft_von.laufzeit(hoch_von);
-    return {LICHT * (dauer_nach - dauer_von) + luft, hoch_nach};
+    return {LICHT * (dauer_nach - dauer_von) + luft, hoch_nach, satellit};
 }
 
 }  // namespace jorv::suite

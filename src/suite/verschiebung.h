@@ -11,6 +11,7 @@ namespace jorv::suite {
 struct Verschiebung {
     double strecke = 0.0;    // metres to add to the codes and, divided by the wavelength, to the phases
     double elevation = 0.0;  // of the satellite above the new place, radians
+    Xyz satellit;            // in the earth-fixed frame of the reception
 };
 
 /// Shifts from station `von` to `nach`, epoch by epoch.

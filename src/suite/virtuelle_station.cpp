@@ -63,10 +63,11 @@ double code(const Messung& m)
     return 0.0;
 }
 
-/// The shift of an observation and the frequencies of its phases.
+/// The shift of an observation with the ionosphere's delay on L1 (metres of a code) and the frequencies of its phases.
 struct Bewegt {
     Verschiebung um;
     double frequenz1 = FREQUENZ1, frequenz2 = FREQUENZ2;
+    double iono = 0.0;
 };
 
 void verschieben(Messung& m, const Bewegt& bewegt)
@@ -76,9 +77,12 @@ void verschieben(Messung& m, const Bewegt& bewegt)
         double& wert = m.wert[static_cast<std::size_t>(art)];
         if (wert != 0.0) wert += betrag;
     };
-    for (const Art art : {Art::C1, Art::P1, Art::C2, Art::P2}) dazu(art, strecke);
-    dazu(Art::L1, strecke * bewegt.frequenz1 / LICHT);
-    dazu(Art::L2, strecke * bewegt.frequenz2 / LICHT);
+    const auto iono = [&](double frequenz) { return bewegt.iono * FREQUENZ1 * FREQUENZ1 / (frequenz * frequenz); };
+    const double iono1 = iono(bewegt.frequenz1), iono2 = iono(bewegt.frequenz2);
+    for (const Art art : {Art::C1, Art::P1}) dazu(art, strecke + iono1);
+    for (const Art art : {Art::C2, Art::P2}) dazu(art, strecke + iono2);
+    dazu(Art::L1, (strecke - iono1) * bewegt.frequenz1 / LICHT);
+    dazu(Art::L2, (strecke - iono2) * bewegt.frequenz2 / LICHT);
 }
 
 void verbessern(Messung& m, const Korrektur& k)
@@ -106,6 +110,7 @@ private:
     std::vector<Netzstation> kandidaten();
     void modell_ablegen(const Netz& netz);
     void netz_benutzen(const RinexBeobachtung& daten);
+    void gefaelle_setzen(const Netz& netz, bool mit_stationen);
     std::optional<Beobachtungsdatei> master_lesen();
     void glonass_bereitstellen();
     bool navigation_bereitstellen();
@@ -134,6 +139,7 @@ private:
     Bahnen m_bahnen;
     Glonassnavigation m_glonass;
     std::optional<Netz> m_netz;
+    Ionosphaerengefaelle m_gefaelle;
     Statistik m_statistik;
 };
 
@@ -250,7 +256,7 @@ void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
             // The network knows GPS alone, and what it doesn't correct would spoil what it does.
             if (m.satellit > GLONASS && m_netz) continue;
             const double strecke = code(m);
-            const auto neu = strecke == 0.0 ? std::nullopt : bewegt(verschieber, m, e.zeit, strecke);
+            auto neu = strecke == 0.0 ? std::nullopt : bewegt(verschieber, m, e.zeit, strecke);
             m_statistik.ohne_code += strecke == 0.0;
             m_statistik.ohne_bahn += strecke != 0.0 && !neu;
             if (!neu) continue;
@@ -259,9 +265,10 @@ void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
             m_statistik.groesste = std::max(m_statistik.groesste, neu->um.strecke);
             m_statistik.kleinste = std::min(m_statistik.kleinste, neu->um.strecke);
             m_statistik.glonass += m.satellit > GLONASS;
+            neu->iono = m_gefaelle.bei(neu->um.satellit, e.zeit);
             verschieben(m, *neu);
             if (m_netz) {
-                const Korrektur* k = korrektur_suchen(m_netz->korrekturen, auf_sekunde(e.zeit).sekunde, m.satellit);
+                const auto k = korrektur_bei(m_netz->korrekturen, e.zeit, m.satellit);
                 m_statistik.ohne_netz += !k;
                 if (!k) continue;
                 verbessern(m, *k);
@@ -299,6 +306,7 @@ void Lauf::netz_benutzen(const RinexBeobachtung& daten)
     Netz netz =
         netz_rechnen({m_stationen, m_virtuell, m_spanne, m_aufruf.antennendatei}, m_bahnen, m_ordner, m_protokoll);
     if (!m_aufruf.modelldatei.empty()) modell_ablegen(netz);
+    gefaelle_setzen(netz, !netz.korrekturen.empty());
     if (netz.korrekturen.empty()) return;
     m_netz = std::move(netz);
     RinexBeobachtung versuch = daten;
@@ -309,7 +317,23 @@ void Lauf::netz_benutzen(const RinexBeobachtung& daten)
     if (anteil <= NETZLUECKEN) return;
     m_protokoll.zeile(
         verkettet("Netz             nicht benutzt: ", fest(100.0 * anteil, 0), " % der Beobachtungen fehlten"));
+    gefaelle_setzen(*m_netz, false);
     m_netz.reset();
+}
+
+// What the stations' weights don't bring along: the layer at the virtual place less the layer at theirs.
+void Lauf::gefaelle_setzen(const Netz& netz, bool mit_stationen)
+{
+    m_gefaelle = {};
+    if (!m_aufruf.ionosphaere) return;
+    m_gefaelle.schicht = netz.ionosphaere;
+    double rest = 1.0;
+    for (std::size_t k = 0; mit_stationen && k < netz.stationen.size(); ++k) {
+        m_gefaelle.orte.push_back({Ort(netz.stationen[k].ort), -netz.gewichte[k]});
+        rest -= netz.gewichte[k];
+    }
+    m_gefaelle.orte.push_back({Ort(m_master.ort), -rest});
+    m_gefaelle.orte.push_back({Ort(m_virtuell), 1.0});
 }
 
 void Lauf::kopf_setzen(RinexBeobachtung& daten, const Ort& nach)

@@ -64,12 +64,14 @@ struct Pruefordner {
         schreiben(name, nachher);
     }
 
-    Lauf wav2(const Worte& worte, Troposphaerenmodell modell = Troposphaerenmodell::voll) const
+    /// With less than the full troposphere the ionosphere is left alone too.
+    Lauf wav2(const Worte& worte, Troposphaerenmodell modell = Troposphaerenmodell::voll, bool ionosphaere = true) const
     {
         std::string grund;
         auto aufruf = wav2_aufruf(worte, grund);
         EXPECT_TRUE(aufruf) << grund;
         aufruf->modell = modell;
+        aufruf->ionosphaere = ionosphaere && modell == Troposphaerenmodell::voll;
         Protokoll p;
         const int status = suite::wav2(*aufruf, ordner, uhr, p);
         return {status, p.text(), p.ausgabe()};

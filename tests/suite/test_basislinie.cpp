@@ -65,8 +65,8 @@ TEST(Basislinie, verschobene_station_gibt_die_direkte_loesung)
         const double grenze = am_ort_der_station ? 0.25 : 0.35;
         expect_nahe(q.rover(), direkt, grenze, grenze);
     }
-    // The whole model differs by the wet part of 6 m of height alone.
-    ASSERT_EQ(p.wav2({ROVER, "3040"}).status, 0);
+    // The whole model differs by the wet part of 6 m of height alone; with the ionosphere by its millimetres on L1.
+    ASSERT_EQ(p.wav2({ROVER, "3040"}, Troposphaerenmodell::voll, false).status, 0);
     ASSERT_EQ(p.wa2({VIRT, ROVER, "+ACF001.ATX"}).status, 0);
     expect_nahe(p.rover(), direkt, 0.5, 2.0);
 }
@@ -148,7 +148,7 @@ TEST(Basislinie, antennen_beider_enden)
             for (const double wert : {e.hoehe, e.ost, e.nord}) anhaengen_fest(versatz, wert, 14, 4);
             kopfzeile(datei, "ANTENNA: DELTA", versatz);
         }
-        ASSERT_TRUE(!f.virtuell || p.wav2({ROVER, "3040"}).status == 0);
+        ASSERT_TRUE(!f.virtuell || p.wav2({ROVER, "3040"}, Troposphaerenmodell::voll, false).status == 0);
         const Lauf lauf = p.wa2({f.virtuell ? VIRT : BASIS, ROVER, "+ACF001.ATX"});
         ASSERT_EQ(lauf.status, 0) << lauf.ausgabe;
         if (&f == &faelle.front()) erste = p.rover();

@@ -93,8 +93,9 @@ TEST(Loeser, vorgaben)
          {"pos1-frequency=1\n", "pos1-ionoopt=brdc\n", "pos1-tropopt=saas\n", "pos1-exclsats=G05 G20\n",
           "ant1-anttype=ROVERANTENNE\n", "ant2-anttype=\n", "ant1-antdelu=1.5000\n", "pos2-armode=continuous\n"})
         EXPECT_NE(l1.find(zeile), std::string::npos) << zeile;
-    for (const char* zeile : {"pos1-frequency=2\n", "pos1-ionoopt=est-stec\n", "pos1-tropopt=est-ztd\n",
-                              "stats-stdiono=50000.000000\n", "stats-prniono=1000.000000\n"})
+    for (const char* zeile :
+         {"pos1-frequency=2\n", "pos1-ionoopt=est-stec\n", "pos1-tropopt=est-ztd\n", "stats-stdiono=50000.000000\n",
+          "stats-prniono=1000.000000\n", "stats-stdtrop=3.000\n", "stats-prntrop=0.00100\n"})
         EXPECT_NE(l0.find(zeile), std::string::npos) << zeile;
     EXPECT_NE(optionsdatei(auftrag, Laufart::code).find("pos1-posmode=dgps\n"), std::string::npos);
     EXPECT_NE(optionsdatei(auftrag, Laufart::offen).find("pos2-armode=off\n"), std::string::npos);

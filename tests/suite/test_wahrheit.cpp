@@ -114,14 +114,19 @@ TEST(Wahrheit, netz_fuehrt_durch_die_ionosphaere_und_weist_falsche_stationen_ab)
         bool abgelehnt, netz;
         double lage_mm;
         std::string stationen = "0590,0591,0593";
+        double takt = 30;  // of the nearest station; the others' corrections are carried over between their epochs
     };
     for (const Fall& f : {Fall{"gut", 0, 0, false, true, 5}, Fall{"hohe Antenne", 0, 1.3, false, true, 5},
                           Fall{"Ort", 0.17, 0, true, true, 25}, Fall{"grober Ort", 25, 0, true, true, 25},
-                          Fall{"keine andere", 0.17, 0, true, false, 60, "0590,0591"}}) {
+                          Fall{"keine andere", 0.17, 0, true, false, 60, "0590,0591"},
+                          Fall{"dichte Daten", 0, 0, false, true, 5, "0590,0591,0593", 5}}) {
         SCOPED_TRACE(f.name);
         simulator::Szenario falsch = s;
         for (simulator::Punkt& p : falsch.punkte)
-            if (p.pkz == "0591") p.naeherung = {0, f.daneben, 0}, p.antennenhoehe = f.antenne;
+            if (p.pkz == "0590")
+                p.takt = f.takt;
+            else if (p.pkz == "0591")
+                p.naeherung = {0, f.daneben, 0}, p.antennenhoehe = f.antenne;
         const Pruefordner p;
         schreiben(p, falsch);
         const Lauf lauf = p.wav2({datei, f.stationen, "+A001.ATX"});
@@ -135,16 +140,90 @@ TEST(Wahrheit, netz_fuehrt_durch_die_ionosphaere_und_weist_falsche_stationen_ab)
     }
 }
 
+// One station alone tells how thick the ionosphere is and how it leans, and two what it does across their line.
+TEST(Wahrheit, ionosphaere_aus_den_phasen_der_naechsten_station)
+{
+    NUR_MIT_LOESER();
+    struct Fall {
+        double nord, ost;        // change of the 15 units of content per km
+        double ohne, mit, zwei;  // mm: at least without the layer, at most with it and with two stations
+    };
+    for (const Fall& f : {Fall{0, 0, 9, 2, 2}, Fall{-0.016, 0.008, 4, 4, 3}}) {
+        SCOPED_TRACE(f.nord);
+        simulator::Szenario s = beispiel();
+        s.wirkungen.ionosphaere = {15, f.nord, f.ost, 0.0, 200, 20, 150};  // no wave, which a plane doesn't follow
+        std::erase_if(s.punkte, [](const auto& p) { return p.pkz != "5501" && p.pkz != "0590" && p.pkz != "0591"; });
+        for (simulator::Punkt& p : s.punkte) {
+            p.von = 9 * 3600.0 - (p.pkz == "5501" ? 0 : 1800);
+            p.bis = 10 * 3600.0 + (p.pkz == "5501" ? 0 : 1800);
+            p.takt = 30;
+        }
+        const simulator::Punkt& rover = s.punkte.back();
+        const std::string datei = simulator::dateiname(s, rover, 'o');
+        const Pruefordner p;
+        schreiben(p, s);
+        const auto abweichung = [&](const char* stationen, bool ionosphaere) {
+            const Lauf lauf = p.wav2({datei, stationen, "+A001.ATX"}, Troposphaerenmodell::voll, ionosphaere);
+            EXPECT_EQ(lauf.status, 0) << lauf.ausgabe;
+            const std::string_view marke = "ber 0590  ";
+            const auto stelle = lauf.protokoll.find(marke) + marke.size();
+            EXPECT_NEAR(zahl_lesen(mitte(lauf.protokoll, stelle + 1, 4)), 15 * 0.1624, 0.35) << lauf.protokoll;
+            EXPECT_EQ(p.wa2({"virt167.16o", datei, "+ACF001.ATX", "+TL1"}).status, 0);
+            const Enu d = abweichung_mm(p.rover(), wahr(rover));
+            return std::hypot(d.e, d.n);
+        };
+        EXPECT_GT(abweichung("0590", false), f.ohne);
+        EXPECT_LT(abweichung("0590", true), f.mit);
+        EXPECT_LT(abweichung("0590,0591", true), f.zwei);
+    }
+}
+
+namespace {
+
+const Ort MASTER({3844000, 650000, 5030000});
+
+// A place so many metres east and north of the master.
+Xyz bei(double e, double n)
+{
+    const auto& h = MASTER.horizont;
+    const auto teil = [&](std::size_t i) { return e * h[0][i] + n * h[1][i]; };
+    return MASTER.xyz + Xyz{teil(0), teil(1), teil(2)};
+}
+
+}  // namespace
+
+TEST(Wahrheit, abstand_vom_netz_zaehlt_von_der_figur_der_stationen)
+{
+    const std::vector<Xyz> dreieck = {bei(30e3, 0), bei(0, 20e3)}, linie = {bei(40e3, 0)};
+    struct Fall {
+        const std::vector<Xyz>& stationen;
+        Xyz ort;
+        double km;
+    };
+    for (const Fall& f :
+         {Fall{dreieck, bei(5e3, 5e3), 0}, Fall{dreieck, bei(-7e3, 5e3), 7}, Fall{dreieck, bei(40e3, 0), 10},
+          Fall{linie, bei(10e3, 8e3), 8}, Fall{linie, bei(-3e3, 4e3), 5}, Fall{linie, bei(20e3, 0), 0}})
+        EXPECT_NEAR(abstand_vom_netz(MASTER, f.ort, f.stationen) / 1000, f.km, 0.01);
+}
+
+TEST(Wahrheit, korrektur_zwischen_zwei_epochen_liegt_dazwischen)
+{
+    const std::vector<Korrekturepoche> alle = {
+        {0, {{5, 0.01, 0.02}}}, {30, {{5, 0.04, 0.05}, {6, 1, 1}}}, {180, {{5, 0, 0}, {6, 0, 0}}}};
+    const auto l1 = [&](std::int64_t sekunde, int satellit) -> double {
+        const auto k = korrektur_bei(alle, {sekunde, 0.0}, satellit);
+        return k ? k->l1 : -1.0;
+    };
+    EXPECT_NEAR(l1(0, 5), 0.01, 1e-12);
+    EXPECT_NEAR(l1(10, 5), 0.02, 1e-12);
+    EXPECT_EQ(l1(10, 6), -1.0) << "der Satellit fehlt davor";
+    EXPECT_EQ(l1(100, 5), -1.0) << "zu weit auseinander";
+    EXPECT_EQ(l1(180, 6), 0.0);
+    EXPECT_EQ(l1(181, 6), -1.0);
+}
+
 TEST(Wahrheit, ebene_gibt_an_den_stationen_deren_wert)
 {
-    const Ort master({3844000, 650000, 5030000});
-    const auto bei = [&](double e, double n) {
-        Xyz p = master.xyz;
-        const std::array<double, 2> um = {e, n};
-        for (std::size_t i = 0; i < 2; ++i)
-            p = p + Xyz{um[i] * master.horizont[i][0], um[i] * master.horizont[i][1], um[i] * master.horizont[i][2]};
-        return p;
-    };
     struct Fall {
         std::vector<std::array<double, 2>> stationen;
         std::array<double, 2> ort;
@@ -159,7 +238,7 @@ TEST(Wahrheit, ebene_gibt_an_den_stationen_deren_wert)
     for (const Fall& f : faelle) {
         std::vector<Xyz> orte;
         for (const auto& s : f.stationen) orte.push_back(bei(s[0], s[1]));
-        const auto g = ebenengewichte(master, bei(f.ort[0], f.ort[1]), orte);
+        const auto g = ebenengewichte(MASTER, bei(f.ort[0], f.ort[1]), orte);
         ASSERT_EQ(g.size(), f.gewichte.size());
         for (std::size_t k = 0; k < g.size(); ++k) EXPECT_NEAR(g[k], f.gewichte[k], 1e-3);
     }

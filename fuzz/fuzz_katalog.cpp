@@ -33,7 +33,8 @@ JORV_ZIEL(katalog)
     fuzz::soll(g.TOREL_Punkt.anzahl() == vorher.anzahl(), "as many stations");
     for (int i = 1; i <= vorher.anzahl(); ++i) {
         const auto &alt = vorher[i], &neu = g.TOREL_Punkt[i];
-        fuzz::soll(neu.PKZ == alt.PKZ && ohne_komma(neu.Name) == ohne_komma(alt.Name), "of the same names");
+        fuzz::soll(ohne_komma(neu.PKZ) == ohne_komma(alt.PKZ) && ohne_komma(neu.Name) == ohne_komma(alt.Name),
+                   "of the same names");
         fuzz::soll(std::abs(neu.X - alt.X) <= 0.001 + 1e-12 * std::abs(alt.X), "at the same places");
     }
 }

@@ -83,6 +83,8 @@ bool ist_gps_navigation(std::string_view zeile)
 {
     const std::string_view art = spalten(zeile, 20, 20);
     const auto version = spaltenzahl(spalten(zeile, 0, 9));
+    // A head that ends in its first line names no type: what is written from it could not be read again.
+    if (spalten(zeile, 60, 20) == "END OF HEADER") return false;
     return version && *version >= 1 && *version < 3 && !art.empty() && (art.front() == 'N' || art.front() == 'n');
 }
 

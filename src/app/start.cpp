@@ -109,6 +109,7 @@ Fehler ende(Global& g)
     const bool sichern = g.Verfahren_offen() && g.vollstaendig_gelesen;
     const Fehler projekt = sichern ? Verfahren_sichern(g) : Fehler::keiner;
     const Fehler einstellungen = ini_schreiben_START(g);
+    g.Verfahrenssperre.reset();
     return ist_fehler(projekt) ? projekt : einstellungen;
 }
 

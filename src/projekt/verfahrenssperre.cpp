@@ -15,6 +15,11 @@ Fehler Verfahren_sperren(Global& g, std::string_view projektdatei, std::shared_p
         return Fehler::keiner;
     }
     auto neu = std::make_shared<const Sperre>(g.dateien, projektdatei, wartezeit);
+    // The open project's folder may have been moved away, its lock with it.
+    if (neu->besetzt() && g.Verfahrenssperre && !g.dateien.vorhanden(g.Verfahrensdatei)) {
+        sperre = g.Verfahrenssperre;
+        return Fehler::keiner;
+    }
     if (neu->besetzt()) {
         stop_melden(g, datei_meldung("Die Verfahrensdatei:", projektdatei,
                                      u8"ist gerade in einem anderen Programm zum Bearbeiten geöffnet!\n"

@@ -125,6 +125,7 @@ TEST(LaufMitSuite, ein_batch_rechnet_das_ganze_verfahren)
 
     // Rover by rover, with the mask that the batch of the whole leaves to the programs, the same lines come out.
     const std::string kurz = lesen(projekt / "001.KRZ");
+    Verfahren_schliessen(g);
     netz.gut({"einstellen", "1", "alle", "Elevation=10"});
     netz.gut({"auswerten", "1"});
     std::string einzeln, einzeln_kurz;

@@ -72,7 +72,7 @@ std::vector<std::string> glieder_des_zustands()
     std::string text = hilfen::lesen(hilfen::fs::path(JORV_QUELLEN) / "src/modell/Global.h");
     text = text.substr(text.find("    Feld<OBS>"), text.find("    bool Verfahren_offen") - text.find("    Feld<OBS>"));
     for (const char* weg : {"//[^\n]*", "\"[^\"]*\"", "struct \\{[^}]*\\} menue;", "\\{[^{}]*\\}", "<[^<>]*>",
-                            "<[^<>]*>", "=[^,;]*", "Baum baum;", "\\w+ abtastung;"})
+                            "<[^<>]*>", "=[^,;]*", "Baum baum;", "std::shared_ptr[^;]*;", "\\w+ abtastung;"})
         text = std::regex_replace(text, std::regex(weg), "");
     const std::regex name("(\\w+)\\s*[,;]");
     std::vector<std::string> namen;

@@ -46,7 +46,7 @@ struct Station {
     suite::RinexBeobachtung daten;
     suite::Xyz ort;
     const Soll* soll = nullptr;
-    bool nur_rover() const { return soll && !soll->bezug.empty() && !soll->hoehe_bekannt; }
+    bool nur_rover() const { return soll && !soll->bezug.empty(); }
 };
 
 struct Zeile {
@@ -203,9 +203,9 @@ void Netzlauf::stueck(const Station& r, const std::vector<const Station*>& um, c
 
 void ausgeben(const std::string& wer, const std::string& weg, const Zeile& z, bool hoehe)
 {
-    std::string text =
-        verkettet(wer, " | ", weg, " | ", z.stuecke, " | ", z.l1, " | ", z.l0, " | ", z.offen, " | ", z.ohne, " | ",
-                  z.falsch, " | ", fest(quantil(z.lage, 0.5), 1), " | ", fest(quantil(z.lage, 1.0), 1));
+    std::string text = verkettet(wer, " | ", weg, " | ", z.stuecke, " | ", z.l1, " | ", z.l0, " | ", z.offen, " | ",
+                                 z.ohne, " | ", z.falsch, " | ", z.lage.empty() ? "-" : fest(quantil(z.lage, 0.5), 1),
+                                 " | ", z.lage.empty() ? "-" : fest(quantil(z.lage, 1.0), 1));
     const auto anzahl = static_cast<double>(z.hoehe.size());
     double mittel = 0, quadrate = 0;
     for (const double h : z.hoehe) mittel += h / anzahl;

@@ -20,7 +20,7 @@ nummer=$(befehl neu Messung --modus E --verzeichnis "$ordner/verfahren")
 befehl antennen "$nummer" "$ordner"/netz/antennen/* >/dev/null
 # The rovers of one and two hours within the figures, four times each, and two shorter ones.
 i=5600
-for vorlage in 5501 5501 5501 5501 5502 5502 5502 5502 5503 5503 5503 5503 5504 5504 5504 5504 5505 5505 5506 5506; do
+for vorlage in 5501 5501 5501 5501 5502 5502 5502 5502 5503 5503 5503 5503 5504 5504 5504 5504 5505 5505 5508 5508; do
   i=$((i + 1))
   for art in o n; do
     [[ ! -f $ordner/netz/rinex/${vorlage}1670.16$art ]] ||

@@ -23,12 +23,13 @@ beste() { # COMMAND... -> best of five, milliseconds
 }
 zeile() { # WHAT OURS THEIRS TARGET(<= or >=) COMMANDS
   awk -v was="$1" -v wir="$2" -v andere="$3" -v ziel="$4" -v befehle="$5" 'BEGIN {
-    v = wir / andere; gut = ziel ~ /^>=/ ? 1 / v >= substr(ziel, 3) : v <= substr(ziel, 3)
-    printf "%-44s %9.2f ms %9.2f ms  %s %6.2f  (%s)%s\n    %s\n", was, wir, andere, ziel ~ /^>=/ ? "faster" : "ratio ", ziel ~ /^>=/ ? 1 / v : v, ziel, gut ? "" : "  NOT MET", befehle }'
+    v = wir / andere; mehr = substr(ziel, 1, 2) == ">="; grenze = substr(ziel, 3) + 0
+    gut = mehr ? 1 / v >= grenze : v <= grenze
+    printf "%-44s %9.2f ms %9.2f ms  %s %6.2f  (%s)%s\n    %s\n", was, wir, andere, (mehr ? "faster" : "ratio "), (mehr ? 1 / v : v), ziel, (gut ? "" : "  NOT MET"), befehle }'
 }
 fest() { # WHAT OURS LIMIT COMMAND
   awk -v was="$1" -v wir="$2" -v ziel="$3" -v befehl="$4" \
-    'BEGIN { printf "%-44s %9.2f ms   limit %9.2f ms%s\n    %s\n", was, wir, ziel, wir <= ziel ? "" : "  NOT MET", befehl }'
+    'BEGIN { printf "%-44s %9.2f ms   limit %9.2f ms%s\n    %s\n", was, wir, ziel, (wir + 0 <= ziel + 0 ? "" : "  NOT MET"), befehl }'
 }
 
 printf 'machine: %s, %s cores, load %s, %s\n' "$(awk -F': ' '/model name/ { print $2; exit }' /proc/cpuinfo)" "$(nproc)" \
@@ -47,7 +48,7 @@ zeile "all values, against the solver's reading" "$(wert werte <<<"$werte")" "$l
   "bench_vergleich werte FILE ($(wert anzahl <<<"$werte") values) | rnx2rtkp -p 0 -ts (outside) -te (outside) -o aus.pos FILE"
 mb=$(stat -c %s 55010010.26o)
 awk -v b="$mb" -v ms="$(wert werte <<<"$werte")" \
-  'BEGIN { printf "%-44s %9.0f MB/s  limit 500 MB/s%s\n", "all values, speed", b / ms / 1000, b / ms / 1000 >= 500 ? "" : "  NOT MET" }'
+  'BEGIN { printf "%-44s %9.0f MB/s  limit 500 MB/s%s\n", "all values, speed", b / ms / 1000, (b / ms / 1000 >= 500 ? "" : "  NOT MET") }'
 "$messer" datei 55020010.26o 3600
 fest "header and end time of an hour's file" "$("$messer" kopf 55020010.26o | wert kopf)" 0.1 "bench_vergleich kopf FILE (warm)"
 fest "satellite inventory of an hour at 1 Hz" "$("$messer" satelliten 55020010.26o | wert satelliten)" 10 "bench_vergleich satelliten FILE"

@@ -69,7 +69,8 @@ void Vorauslauf::daneben_starten(const std::string& stueck)
 {
     const auto dieses = std::find(m_stuecke.begin(), m_stuecke.end(), stueck) - m_stuecke.begin();
     m_naechstes = std::max(m_naechstes, static_cast<std::size_t>(dieses) + 1);
-    nachlegen(m_gleichzeitig - 1);
+    // One more than may run: while this one runs nobody starts another in the place of one that ends before it.
+    nachlegen(m_gleichzeitig);
 }
 
 bool Vorauslauf::hat(const std::string& stueck) const

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plattform/speicher.h"
 #include "plattform/text.h"
 #include "suite/glonass.h"
 #include "suite/spalten.h"
@@ -28,6 +29,26 @@ int satellitennummer(char zehner, char einer)
     if (einer == ' ') std::swap(zehner, einer);
     const bool gut = einer >= '0' && einer <= '9' && (zehner == ' ' || (zehner >= '0' && zehner <= '9'));
     return gut ? (zehner == ' ' ? 0 : 10 * (zehner - '0')) + (einer - '0') : -1;
+}
+
+// A number as almost every file writes it, right-aligned with three decimals (F14.3); false for any other text. The
+// whole number below 10^15 and one division give the nearest double, as the general way does.
+bool festwert(const char* feld, double& wert)
+{
+    const auto ist_ziffer = [](char zeichen) { return zeichen >= '0' && zeichen <= '9'; };
+    if (feld[10] != '.' || !ist_ziffer(feld[11]) || !ist_ziffer(feld[12]) || !ist_ziffer(feld[13])) return false;
+    int i = 0;
+    while (feld[i] == ' ') ++i;
+    const bool minus = feld[i] == '-';
+    i += minus ? 1 : 0;
+    std::int64_t zahl = 0;
+    for (; i < 10; ++i) {
+        if (!ist_ziffer(feld[i])) return false;
+        zahl = 10 * zahl + (feld[i] - '0');
+    }
+    zahl = 1000 * zahl + 100 * (feld[11] - '0') + 10 * (feld[12] - '0') + (feld[13] - '0');
+    wert = static_cast<double>(minus ? -zahl : zahl) / 1000.0;
+    return true;
 }
 
 class Leser {
@@ -166,7 +187,11 @@ std::optional<Epochenzeile> Leser::epochenzeile(std::string_view z) const
 void Leser::daten()
 {
     // About one observation a line of its columns; growing step by step would copy a large file's values many times.
-    if (m_umfang == Umfang::alles) m_ziel.messungen.reserve(m_rest.size() / (16 * m_spalten.size()));
+    if (m_umfang == Umfang::alles) {
+        m_ziel.messungen.reserve(m_rest.size() / (16 * m_spalten.size()));
+        grosse_seiten(m_ziel.messungen.data(), m_ziel.messungen.capacity() * sizeof(Messung));
+        m_ziel.epochen.reserve(m_ziel.messungen.capacity() / SATELLITEN_JE_ZEILE);
+    }
     std::string_view z;
     while (!m_abgebrochen && zeile(z)) {
         const auto e = epochenzeile(z);
@@ -219,9 +244,11 @@ void Leser::wert_lesen(std::string_view z, std::size_t platz, std::size_t art, M
 {
     const std::size_t spalte = 16 * platz;
     if (z.size() <= spalte) return;
-    const auto wert = spaltenzahl(spalten(z, spalte, 14));
-    if (!wert || *wert == 0.0) return;
-    ziel.wert[art] = *wert;
+    double wert = 0.0;
+    if (z.size() < spalte + 14 || !festwert(z.data() + spalte, wert))
+        wert = spaltenzahl(spalten(z, spalte, 14)).value_or(0.0);
+    if (wert == 0.0) return;
+    ziel.wert[art] = wert;
     if (z.size() > spalte + 14) ziel.schlupf[art] = z[spalte + 14];
     if (z.size() > spalte + 15) ziel.staerke[art] = z[spalte + 15];
 }

@@ -74,7 +74,7 @@ awk -v a="$(((ende - beginn) / 1000))" -v k="$kopie" \
 
 echo "a rover's own cost and several at once"
 "$wurzel/bench/lauf.sh" "$bau" | tail -1
-"$wurzel/bench/gleichzeitig.sh" "$bau" | tail -1
+"$wurzel/bench/gleichzeitig.sh" "$bau" | tail -4
 if command -v xvfb-run >/dev/null && [[ -x $bau/bench/bench_fensterstart ]]; then
   echo 'start to the first painted window, against a bare one'
   xvfb-run -a -s '-screen 0 1600x1000x24' "$bau/bench/bench_fensterstart" 2>/dev/null | tail -4

@@ -2,7 +2,7 @@
 # The run's own cost per rover against the solver's time, on the shipped example, one rover after the other:
 #   bench/lauf.sh [BUILD FOLDER]
 # Prints for each run the solver's time and, against it, what the suite's programs take beside the solver and what the run
-# itself takes (jorv and the interpreter). The clocks' own start (loeseruhr.cpp) is taken off: a run without measuring
+# itself takes (jorv and the interpreter). The clocks' own start (programmuhr.cpp) is taken off: a run without measuring
 # doesn't have it.
 set -euo pipefail
 wurzel=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
@@ -11,7 +11,7 @@ jorv=$bau/programme/jorv
 ordner=$(mktemp -d)
 trap 'rm -rf "$ordner"' EXIT
 mkdir "$ordner/bin" "$ordner/echt"
-for programm in rnx2rtkp wav2 wa2; do ln -s "$bau/bench/loeseruhr" "$ordner/bin/$programm"; done
+for programm in rnx2rtkp wav2 wa2; do ln -s "$bau/bench/programmuhr" "$ordner/bin/$programm"; done
 ln -s "$(command -v rnx2rtkp)" "$bau"/programme/{wav2,wa2} "$ordner/echt"
 export JORV_UHR_ORDNER=$ordner/echt JORV_UHR_ZEITEN=$ordner/zeiten
 printf '[GRUNDEINSTELLUNGEN]\r\nGleichzeitig=1\r\n' >"$ordner/JorvPlus.INI"

@@ -1,26 +1,11 @@
-// What the measurements of the readers share: a large observation file with the same bytes each time, and no screen.
+// What the measurements of the readers share: a large observation file with the same bytes each time.
 #pragma once
 
 #include <filesystem>
 #include <fstream>
 #include <string>
 
-#include "plattform/oberflaeche.h"
-
 namespace jorv::messen {
-
-class Stumm final : public Oberflaeche {
-public:
-    void meldung(Symbol, std::string_view, std::string_view) override {}
-    Antwort frage(Symbol, std::string_view, Antwort vorgabe, std::string_view) override { return vorgabe; }
-    void fortschritt_zeigen(std::string_view) override {}
-    void fortschritt_setzen(double) override {}
-    void fortschritt_verbergen() override {}
-    bool ereignisse() override { return false; }
-    bool im_editor_oeffnen(std::string_view) override { return false; }
-    std::optional<Dateiwahl> dateien_waehlen(Dateiart, std::string_view) override { return std::nullopt; }
-    void neues_verfahren(const Verfahrenswahl&, std::string_view, const Verfahrensanlage&) override {}
-};
 
 inline void rechts(std::string& ziel, long zahl, std::size_t breite)
 {

@@ -12,6 +12,7 @@
 #include "daten/punkt_info.h"
 #include "daten/satelliten.h"
 #include "plattform/kalender.h"
+#include "plattform/stumme_oberflaeche.h"
 #include "plattform/text.h"
 
 namespace {
@@ -55,7 +56,7 @@ void zeilen_zaehlen(benchmark::State& zustand)
 
 void beide_leser(benchmark::State& zustand)
 {
-    jorv::messen::Stumm schirm;
+    jorv::StummeOberflaeche schirm;
     const jorv::Systemuhr uhr;
     jorv::Global g(schirm, uhr, jorv::Dateisystem());
     g.Verfahrensname = "Messung";
@@ -76,7 +77,7 @@ void beide_leser(benchmark::State& zustand)
 // What the windows with time bars read, from nothing each time.
 void datendichte(benchmark::State& zustand)
 {
-    jorv::messen::Stumm schirm;
+    jorv::StummeOberflaeche schirm;
     const jorv::Systemuhr uhr;
     jorv::Global g(schirm, uhr, jorv::Dateisystem());
     g.Arbeitsverzeichnis = jorv::Laufwerke().dos(messdatei().ordner).value();

@@ -13,6 +13,7 @@
 #include "hilfen/Projekt.h"
 #include "plattform/abbild.h"
 #include "plattform/kalender.h"
+#include "plattform/stumme_oberflaeche.h"
 #include "projekt/projektdatei_lesen.h"
 #include "projekt/projektdatei_schreiben.h"
 #include "suite/rinex_beobachtung.h"
@@ -57,7 +58,7 @@ int werte(const fs::path& datei)
 // Header, end time and, when wanted, the satellites: what the intake does with a rover's file.
 int aufnehmen(const fs::path& datei, bool satelliten)
 {
-    messen::Stumm schirm;
+    StummeOberflaeche schirm;
     const Systemuhr uhr;
     Global g(schirm, uhr, Dateisystem());
     g.Verfahrensname = "Messung";

@@ -10,9 +10,9 @@ using namespace jorv;
 JORV_ZIEL(rinex_kopf)
 {
     static fuzz::Stand stand;
-    const int vorher = stand.schirm.meldungen;
+    const int vorher = stand.schirm.gesagt();
     const auto kopf = rinexkopf_lesen(stand.g, bytes, "ziel");
-    fuzz::soll(kopf.has_value() == (stand.schirm.meldungen == vorher), "a header or a message");
+    fuzz::soll(kopf.has_value() == (stand.schirm.gesagt() == vorher), "a header or a message");
     if (!kopf) return;
     fuzz::soll(std::isfinite(kopf->X) && std::isfinite(kopf->Y) && std::isfinite(kopf->Z), "a finite position");
     fuzz::soll(kopf->Antenne.size() <= 40, "the antenna's columns");

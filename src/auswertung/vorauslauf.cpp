@@ -7,6 +7,7 @@
 #include "auswertung/rover_batch.h"
 #include "modell/Gemeinsam.h"
 #include "plattform/pfad.h"
+#include "plattform/stumme_oberflaeche.h"
 #include "plattform/text.h"
 
 namespace jorv {
@@ -14,32 +15,16 @@ namespace jorv {
 namespace {
 
 // Stands for the screen while a batch is written ahead: what there is to tell is told at the item's turn.
-class Stumm final : public Oberflaeche {
+class Stumm final : public StummeOberflaeche {
 public:
     explicit Stumm(Global& zustand) : g(zustand), m_schirm(zustand.oberflaeche) { g.oberflaeche = this; }
     Stumm(const Stumm&) = delete;
     Stumm& operator=(const Stumm&) = delete;
     ~Stumm() override { g.oberflaeche = m_schirm; }
-    bool gab_zu_sagen() const { return m_gesagt; }
-
-    void meldung(Symbol, std::string_view, std::string_view) override { m_gesagt = true; }
-    Antwort frage(Symbol, std::string_view, Antwort vorgabe, std::string_view) override
-    {
-        m_gesagt = true;
-        return vorgabe;
-    }
-    void fortschritt_zeigen(std::string_view) override {}
-    void fortschritt_setzen(double) override {}
-    void fortschritt_verbergen() override {}
-    bool ereignisse() override { return false; }
-    bool im_editor_oeffnen(std::string_view) override { return false; }
-    std::optional<Dateiwahl> dateien_waehlen(Dateiart, std::string_view) override { return std::nullopt; }
-    void neues_verfahren(const Verfahrenswahl&, std::string_view, const Verfahrensanlage&) override {}
 
 private:
     Global& g;
     Oberflaeche* m_schirm;
-    bool m_gesagt = false;
 };
 
 // What a batch makes, by the end of the name or its beginning: it must not meet what others have made, or write
@@ -143,7 +128,7 @@ bool Vorauslauf::starten(const std::string& stueck)
 {
     {
         const Stumm stumm(g);
-        if (ist_fehler(m_art.batch(g, stueck)) || stumm.gab_zu_sagen()) return false;
+        if (ist_fehler(m_art.batch(g, stueck)) || stumm.gesagt() > 0) return false;
     }
     Platz* platz = freier_platz();
     if (!platz) return false;

@@ -12,7 +12,7 @@ JORV_ZIEL(navigation)
 {
     Navigation alles;
     const int gelesen = navigation_lesen(bytes, alles);
-    fuzz::soll(alles.saetze.size() == alles.zeilen.size(), "lines for each set");
+    fuzz::soll(alles.saetze.size() == alles.datei.zeilen.size(), "lines for each set");
     if (gelesen < 0) return;
     fuzz::soll(alles.saetze.size() <= static_cast<std::size_t>(gelesen), "not more sets than were read");
     for (const auto& satz : alles.saetze) {

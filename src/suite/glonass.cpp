@@ -1,10 +1,9 @@
 #include "suite/glonass.h"
 
 #include <algorithm>
-#include <numeric>
+#include <array>
 #include <optional>
 
-#include "plattform/text.h"
 #include "suite/spalten.h"
 
 namespace jorv::suite {
@@ -75,28 +74,11 @@ constexpr std::array<Schaltsekunde, 18> SCHALTSEKUNDEN = {{{2017, 1, 18},
                                                            {1982, 7, 2},
                                                            {1981, 7, 1}}};
 
-using Satzzeilen = std::array<std::string_view, ZEILEN_JE_SATZ>;
-
-std::optional<double> satzzahl(const Satzzeilen& zeilen, std::size_t zeile, std::size_t spalte)
-{
-    return spaltenzahl(spalten(zeilen[zeile], 3 + 19 * spalte, 19));
-}
-
-// Time of a set in UTC.
-std::optional<GpsZeit> satzzeit(std::string_view zeile)
-{
-    std::array<int, 5> datum{};
-    for (std::size_t i = 0; i < datum.size(); ++i) datum[i] = spaltenganz(spalten(zeile, 3 + 3 * i, 2)).value_or(-1);
-    const auto sekunde = spaltenzahl(spalten(zeile, 17, 5));
-    if (!sekunde || datum[0] < 0) return {};
-    return gps_zeit({volles_jahr(datum[0]), datum[1], datum[2], datum[3], datum[4], *sekunde});
-}
-
-std::optional<Glonasssatz> satz_lesen(const Satzzeilen& zeilen, std::optional<int> schaltsekunden_des_kopfes)
+std::optional<Glonasssatz> satz_lesen(Satzzeilen zeilen, std::optional<int> schaltsekunden_des_kopfes)
 {
     Glonasssatz s;
     const auto platz = spaltenganz(spalten(zeilen[0], 0, 2));
-    const auto utc = satzzeit(zeilen[0]);
+    const auto utc = satzzeit(zeilen);
     if (!platz || *platz < 1 || *platz > 99 || !utc) return {};
     s.satellit = GLONASS + *platz;
     s.zeit = verschoben(*utc, schaltsekunden_des_kopfes.value_or(schaltsekunden(*utc)));
@@ -160,51 +142,34 @@ int schaltsekunden(const GpsZeit& zeit)
 int glonass_lesen(std::string_view text, Glonassnavigation& ziel)
 {
     Zeilenleser leser(text);
-    auto zeile = leser.naechste();
+    const auto zeile = leser.naechste();
     const auto version = zeile ? spaltenzahl(spalten(*zeile, 0, 9)) : std::nullopt;
     if (!version || *version < 1 || *version >= 3 || !spalten(*zeile, 20, 20).starts_with('G')) return -1;
-    std::vector<std::string> kopf;
+    auto kopf = kopfzeilen(*zeile, leser);
+    if (!kopf) return -1;
     std::optional<int> sekunden;
-    for (; zeile && spalten(*zeile, 60, 20) != "END OF HEADER"; zeile = leser.naechste()) {
-        if (spalten(*zeile, 60, 20) == "LEAP SECONDS") sekunden = spaltenganz(spalten(*zeile, 0, 6));
-        kopf.emplace_back(*zeile);
-    }
-    if (!zeile) return -1;
-    if (ziel.kopf.empty()) ziel.kopf = std::move(kopf);
+    for (const std::string& z : *kopf)
+        if (spalten(z, 60, 20) == "LEAP SECONDS") sekunden = spaltenganz(spalten(z, 0, 6));
+    if (ziel.datei.kopf.empty()) ziel.datei.kopf = std::move(*kopf);
     int gelesen = 0;
-    Satzzeilen zeilen;
-    std::size_t anzahl = 0;
-    while ((zeile = leser.naechste())) {
-        // The first line of a set alone has its satellite in front: a broken set never shifts the ones behind it.
-        if (!spalten(*zeile, 0, 2).empty()) anzahl = 0;
-        if (anzahl < ZEILEN_JE_SATZ) zeilen[anzahl] = *zeile;
-        if (++anzahl != ZEILEN_JE_SATZ) continue;
+    std::array<std::string_view, ZEILEN_JE_SATZ> zeilen;
+    while (naechster_satz(leser, zeilen)) {
         const auto satz = satz_lesen(zeilen, sekunden);
         if (!satz) continue;
         ++gelesen;
         if (schon_da(ziel, *satz)) continue;
         ziel.saetze.push_back(*satz);
-        std::string ganz;
-        for (const std::string_view z : zeilen) ganz.append(z).append("\r\n");
-        ziel.zeilen.push_back(std::move(ganz));
+        ziel.datei.dazu(zeilen);
     }
     return gelesen;
 }
 
 std::string glonass_text(const Glonassnavigation& navigation)
 {
-    std::string text;
-    for (const std::string& zeile : navigation.kopf) text.append(zeile).append("\r\n");
-    anhaengen_links(text, "", 60);
-    text.append("END OF HEADER\r\n");
-    std::vector<std::size_t> folge(navigation.saetze.size());
-    std::iota(folge.begin(), folge.end(), std::size_t{0});
-    std::stable_sort(folge.begin(), folge.end(), [&](std::size_t a, std::size_t b) {
+    return navigation.datei.text([&](std::size_t a, std::size_t b) {
         const Glonasssatz &x = navigation.saetze[a], &y = navigation.saetze[b];
         return x.zeit != y.zeit ? x.zeit < y.zeit : x.satellit < y.satellit;
     });
-    for (const std::size_t i : folge) text.append(navigation.zeilen[i]);
-    return text;
 }
 
 }  // namespace jorv::suite

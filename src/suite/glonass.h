@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "suite/bahn.h"
+#include "suite/navigationsdatei.h"
 
 namespace jorv::suite {
 
@@ -45,8 +46,7 @@ int schaltsekunden(const GpsZeit& zeit);
 
 struct Glonassnavigation {
     std::vector<Glonasssatz> saetze;
-    std::vector<std::string> zeilen;  // the four lines of each set, CR LF, same order as `saetze`
-    std::vector<std::string> kopf;    // header lines of the first file
+    Navigationsdatei datei;  // its sets in the order of `saetze`
 };
 
 /// Adds the sets of a file's text, without doubles; sets that can't be read wholly are passed over. Their UTC becomes

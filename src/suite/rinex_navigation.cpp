@@ -1,10 +1,9 @@
 #include "suite/rinex_navigation.h"
 
 #include <algorithm>
-#include <numeric>
+#include <array>
 #include <optional>
 
-#include "plattform/text.h"
 #include "suite/spalten.h"
 
 namespace jorv::suite {
@@ -28,30 +27,14 @@ constexpr std::array<Satzfeld, 20> FELDER = {
      {&Ephemeride::crc, 4, 1},     {&Ephemeride::omega, 4, 2},     {&Ephemeride::omega_punkt, 4, 3},
      {&Ephemeride::i_punkt, 5, 0}, {&Ephemeride::gesundheit, 6, 1}}};
 
-using Satzzeilen = std::array<std::string_view, ZEILEN_JE_SATZ>;
-
-std::optional<double> satzzahl(const Satzzeilen& zeilen, std::size_t zeile, std::size_t spalte)
-{
-    return spaltenzahl(spalten(zeilen[zeile], 3 + 19 * spalte, 19));
-}
-
 // What tells one set from another: satellite, both reference times, issue.
-std::optional<Ephemeride> kennung_lesen(const Satzzeilen& zeilen)
+std::optional<Ephemeride> kennung_lesen(Satzzeilen zeilen)
 {
     Ephemeride eph;
     const auto satellit = spaltenganz(spalten(zeilen[0], 0, 2));
-    std::array<int, 5> datum{};
-    for (std::size_t i = 0; i < datum.size(); ++i) {
-        const auto zahl = spaltenganz(spalten(zeilen[0], 3 + 3 * i, 2));
-        if (!zahl) return {};
-        datum[i] = *zahl;
-    }
-    const auto sekunde = spaltenzahl(spalten(zeilen[0], 17, 5));
+    const auto toc = satzzeit(zeilen);
     const auto toe = satzzahl(zeilen, 3, 0), iode = satzzahl(zeilen, 1, 0);
-    if (!iode || !satellit || *satellit < 1 || *satellit > 99 || !sekunde || !toe || *toe < 0 || *toe > WOCHE)
-        return {};
-    const auto toc = gps_zeit({volles_jahr(datum[0]), datum[1], datum[2], datum[3], datum[4], *sekunde});
-    if (!toc) return {};
+    if (!iode || !satellit || *satellit < 1 || *satellit > 99 || !toc || !toe || *toe < 0 || *toe > WOCHE) return {};
     eph.satellit = *satellit;
     eph.iode = *iode;
     eph.toc = *toc;
@@ -62,7 +45,7 @@ std::optional<Ephemeride> kennung_lesen(const Satzzeilen& zeilen)
     return eph;
 }
 
-bool felder_lesen(const Satzzeilen& zeilen, Ephemeride& eph)
+bool felder_lesen(Satzzeilen zeilen, Ephemeride& eph)
 {
     for (const Satzfeld& feld : FELDER) {
         const auto zahl = satzzahl(zeilen, feld.zeile, feld.spalte);
@@ -93,20 +76,14 @@ bool ist_gps_navigation(std::string_view zeile)
 int navigation_lesen(std::string_view text, Navigation& ziel)
 {
     Zeilenleser leser(text);
-    auto zeile = leser.naechste();
+    const auto zeile = leser.naechste();
     if (!zeile || !ist_gps_navigation(*zeile)) return -1;
-    std::vector<std::string> kopf;
-    for (; zeile && spalten(*zeile, 60, 20) != "END OF HEADER"; zeile = leser.naechste()) kopf.emplace_back(*zeile);
-    if (!zeile) return -1;
-    if (ziel.kopf.empty()) ziel.kopf = std::move(kopf);
+    auto kopf = kopfzeilen(*zeile, leser);
+    if (!kopf) return -1;
+    if (ziel.datei.kopf.empty()) ziel.datei.kopf = std::move(*kopf);
     int gelesen = 0;
-    Satzzeilen zeilen;
-    std::size_t anzahl = 0;
-    while ((zeile = leser.naechste())) {
-        // The first line of a set alone has its satellite in front: a broken set never shifts the ones behind it.
-        if (!spalten(*zeile, 0, 2).empty()) anzahl = 0;
-        if (anzahl < ZEILEN_JE_SATZ) zeilen[anzahl] = *zeile;
-        if (++anzahl != ZEILEN_JE_SATZ) continue;
+    std::array<std::string_view, ZEILEN_JE_SATZ> zeilen;
+    while (naechster_satz(leser, zeilen)) {
         // The files of neighbouring stations hold the same sets: their numbers are read once.
         auto eph = kennung_lesen(zeilen);
         const bool doppelt = eph && schon_da(ziel, *eph);
@@ -114,27 +91,17 @@ int navigation_lesen(std::string_view text, Navigation& ziel)
         ++gelesen;
         if (doppelt) continue;
         ziel.saetze.push_back(*eph);
-        std::string satz;
-        for (const std::string_view z : zeilen) satz.append(z).append("\r\n");
-        ziel.zeilen.push_back(std::move(satz));
+        ziel.datei.dazu(zeilen);
     }
     return gelesen;
 }
 
 std::string navigation_text(const Navigation& navigation)
 {
-    std::string text;
-    for (const std::string& zeile : navigation.kopf) text.append(zeile).append("\r\n");
-    anhaengen_links(text, "", 60);
-    text.append("END OF HEADER\r\n");
-    std::vector<std::size_t> folge(navigation.saetze.size());
-    std::iota(folge.begin(), folge.end(), std::size_t{0});
-    std::stable_sort(folge.begin(), folge.end(), [&](std::size_t a, std::size_t b) {
+    return navigation.datei.text([&](std::size_t a, std::size_t b) {
         const Ephemeride &x = navigation.saetze[a], &y = navigation.saetze[b];
         return x.toc != y.toc ? x.toc < y.toc : x.satellit < y.satellit;
     });
-    for (const std::size_t i : folge) text.append(navigation.zeilen[i]);
-    return text;
 }
 
 }  // namespace jorv::suite

@@ -6,14 +6,14 @@
 #include <vector>
 
 #include "suite/bahn.h"
+#include "suite/navigationsdatei.h"
 
 namespace jorv::suite {
 
 /// The sets of one or more files, with the lines that they came from.
 struct Navigation {
     std::vector<Ephemeride> saetze;
-    std::vector<std::string> zeilen;  // the eight lines of each set, CR LF, same order as `saetze`
-    std::vector<std::string> kopf;    // header lines of the first file
+    Navigationsdatei datei;  // its sets in the order of `saetze`
 };
 
 /// Adds the GPS sets of a file's text. Sets that are there already (same satellite, reference time and issue) are

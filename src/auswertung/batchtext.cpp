@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "modell/Batchzeilen.h"
 #include "modell/Gemeinsam.h"
 #include "plattform/text.h"
 
@@ -40,7 +41,9 @@ std::string Batchtext::einsetzen(std::string_view vorlage) const
         const auto zu = auf == std::string_view::npos ? auf : vorlage.find('}', auf);
         if (zu == std::string_view::npos) break;
         fertig += vorlage.substr(0, auf);
-        fertig += wert(vorlage.substr(auf + 1, zu - auf - 1));
+        const std::string_view name = vorlage.substr(auf + 1, zu - auf - 1);
+        // The project's name is for people, the others are words of commands.
+        fertig += name == "VNAME" ? std::string(wert(name)) : batch_wort(wert(name));
         vorlage.remove_prefix(zu + 1);
     }
     return fertig.append(vorlage);

@@ -19,7 +19,24 @@ constexpr std::array<std::string_view, 6> wartetext = {
     u8"echo !                  (Fenster schlieát automatisch!)"_w,
     "echo !"};
 
+// In quotes only the percent sign still counts.
+std::string batch_wort_in_anfuehrung(std::string_view name)
+{
+    return ersetzt(name, "%", "%%");
+}
+
 }  // namespace
+
+std::string batch_wort(std::string_view name)
+{
+    std::string wort;
+    for (const char zeichen : name) {
+        if (zeichen == '%') wort += '%';
+        if (std::string_view("^&|<>").find(zeichen) != std::string_view::npos) wort += '^';
+        wort += zeichen;
+    }
+    return wort;
+}
 
 std::string batch_laufwerk(std::string_view verzeichnis)
 {
@@ -28,19 +45,19 @@ std::string batch_laufwerk(std::string_view verzeichnis)
 
 std::string batch_cd(std::string_view verzeichnis)
 {
-    return dos_text(verkettet("cd ", mitte(verzeichnis, pfad_wurzel_laenge(verzeichnis))));
+    return dos_text(verkettet("cd ", batch_wort(mitte(verzeichnis, pfad_wurzel_laenge(verzeichnis)))));
 }
 
 std::string batch_path(std::string_view exe_verzeichnis)
 {
-    return dos_text(verkettet("path %path%;", exe_verzeichnis));
+    return dos_text(verkettet("path %path%;", batch_wort(exe_verzeichnis)));
 }
 
 std::string batch_aufruf(std::string_view batchdatei)
 {
     std::string bytes;
     for (const auto zeile : wartetext) bytes += verkettet(zeile, "\r\n");
-    return bytes + verkettet(dos_text(verkettet('"', batchdatei, '"')), "\r\n");
+    return bytes + verkettet(dos_text(verkettet('"', batch_wort_in_anfuehrung(batchdatei), '"')), "\r\n");
 }
 
 }  // namespace jorv

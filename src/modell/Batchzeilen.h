@@ -6,6 +6,10 @@
 
 namespace jorv {
 
+/// A name as a batch line must write it outside quotes for the interpreter to take it as it is: "%" doubled, "^" in
+/// front of the signs that end a command or lead its output elsewhere.
+std::string batch_wort(std::string_view name);
+
 /// The root of a work directory without its last character: "D:" of "D:\a\b", "\\server" of "\\server\a\b".
 std::string batch_laufwerk(std::string_view verzeichnis);
 

@@ -90,6 +90,27 @@ TEST(Ganz_FeindlicherLoeser, GibtKeineZahlUndEineZeileImProtokoll)
     }
 }
 
+// Of folder and files: the batch and the solver's call must take them as they are.
+TEST(Ganz_FeindlicherLoeser, NamenVollerSonderzeichen)
+{
+    const Loeserplatz platz;
+    const std::string ort = "beispiel/rinex/";
+    const std::string name = "5&%41670.16o";
+    fs::copy_file(platz.host(ort + rover), platz.host(ort + name));
+    int nummer = 1;
+    for (const char* ordner : {"50% fest; \u00e4&b (x) ^y! #z", "mit %PATH% und 'x'", "Stra\u00dfe%1,%%;=~"}) {
+        const std::string nr = std::to_string(++nummer);
+        platz.gut({"neu", "Verfahren" + nr, "--modus", "E", "--verzeichnis", ordner});
+        platz.gut({"antennen", nr, "beispiel/antennen/antennen.atx"});
+        platz.gut({"rinex", nr, ort + name, ort + rover, ort + "05901670.16o", ort + "05901670.16n",
+                   ort + "05911670.16o", ort + "05931670.16o"});
+        platz.gut({"figur", nr, "0590", "0591", "0593"});
+        const auto lauf = platz.jorv({"auswerten", nr});
+        EXPECT_EQ(lauf.status, 0) << ordner << lauf.err;
+        for (const std::string& einer : {name, rover}) EXPECT_THAT(lauf.aus, HasSubstr(einer + "  FixedL1")) << ordner;
+    }
+}
+
 bool endet(pid_t nummer)
 {
     for (int i = 0; i < 500; ++i) {

@@ -95,6 +95,9 @@ TEST(Batchzeilen, FuehrenInDenOrdner)
     EXPECT_EQ(batch_path(u8"C:\\Süd"_w),
               "path %path%;C:\\S\x81"
               "d");
+    // What the interpreter would take for itself reaches the command as it is.
+    EXPECT_EQ(batch_cd("D:\\Wald & Wiese\\50% ^(x)"), "cd \\Wald ^& Wiese\\50%% ^^(x)");
+    EXPECT_TRUE(batch_aufruf("D:\\a & 5%\\1.BAT").ends_with("\"D:\\a & 5%%\\1.BAT\"\r\n"));
 }
 
 TEST(Meldungen, WortfamilieHatDreiFormen)

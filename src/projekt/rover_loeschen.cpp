@@ -112,14 +112,14 @@ void letzte_schluessel_entfernen(Global& g)
 {
     std::error_code fehler;
     Profil profil = Profil::aus_datei(g.dateien, g.Verfahrensdatei, fehler);
-    if (fehler) return;
     const auto ohne = [&](std::string_view sektion, int rest) { profil.entfernen(sektion, verkettet(rest + 1)); };
     for (const std::string_view sektion : {"ROVER-OBS", "GRAPHIK-ROVER", "ROVER-SETTINGS"})
         ohne(sektion, g.OBS_R.anzahl());
     if (ist_E_oder_S(g)) ohne("ROVER-TOREL", g.OBS_R.anzahl());
     if (ist_F(g)) ohne("ROVER-VIRT", g.OBS_R.anzahl());
     ohne("RINEX-DATEIEN", g.RINEX_Dateien.anzahl());
-    if (profil.schreiben(g.dateien, g.Verfahrensdatei))
+    if (!fehler) fehler = profil.schreiben(g.dateien, g.Verfahrensdatei);
+    if (fehler)
         stop_melden(g, datei_meldung("In die Verfahrensdatei: ", g.Verfahrensdatei,
                                      "konnt nicht fehlerfrei geschrieben werden!"));
 }

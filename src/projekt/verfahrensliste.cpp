@@ -66,7 +66,8 @@ void aus_datei_entfernen(Global& g, const Verfahren_Satz& v)
 {
     Einstellungen_gesperrt einstellungen(g);
     Profil& profil = einstellungen.profil();
-    if (!profil.hat(sektion_name, v.Nummer) || fremd_vergeben(profil, v)) return;
+    // What can't be read may hold it: that is told like a failed write.
+    if (einstellungen.gelesen() && (!profil.hat(sektion_name, v.Nummer) || fremd_vergeben(profil, v))) return;
     for (const auto& s : listensektionen) profil.entfernen(s.sektion, v.Nummer);
     (void)einstellungen.schreiben();
 }

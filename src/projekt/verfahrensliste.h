@@ -30,6 +30,7 @@ class Einstellungen_gesperrt {
 public:
     explicit Einstellungen_gesperrt(Global& g);
     Profil& profil() { return m_profil; }
+    bool gelesen() const { return !m_fehler; }
     /// Writes the image; a failure, also of the reading before, shows its message and leaves the file as it was.
     Fehler schreiben();
 

@@ -108,14 +108,13 @@ void spiegeln(const fs::path& von, const fs::path& nach)
             fs::copy_symlink(eintrag.path(), ziel);
         else if (eintrag.is_directory())
             spiegeln(eintrag.path(), ziel);
-        else if (eintrag.file_size() > gross)
-            fs::create_hard_link(eintrag.path(), ziel);
-        else
+        else if (std::error_code fehler = std::make_error_code(std::errc::file_too_large);
+                 eintrag.file_size() <= gross || (fs::create_hard_link(eintrag.path(), ziel, fehler), fehler))
             fs::copy_file(eintrag.path(), ziel);
     }
 }
 
-const std::string rover = "55041670.16o", zweiter = "55011670.16o", neuer = "55021670.16o";
+const std::string rover = "55041670.16o", zweiter = "55011670.16o", neuer = "55021670.16o", linie = "55031670.16o";
 
 }  // namespace
 
@@ -137,11 +136,20 @@ Stoerplatz::Stoerplatz() : m_platz("E")
     m_platz.gut({"auswerten", "1"});
     m_platz.gut({"einstellen", "1", zweiter, "Ein=1"});
     m_platz.gut({"neu", "Linien", "--modus", "B", "--verzeichnis", "linien"});
-    m_platz.gut({"rinex", "2", "beispiel/rinex/" + rover, "beispiel/rinex/" + zweiter});
+    m_platz.gut({"antennen", "2", "beispiel/antennen/antennen.atx"});
+    m_platz.gut({"rinex", "2", "beispiel/rinex/" + neuer, "beispiel/rinex/" + zweiter, "beispiel/rinex/" + linie,
+                 "beispiel/rinex/55031670.16n"});
+    schreiben(wurzel / "linien.txt", "5503 5501\r\n");
+    m_platz.gut({"basislinien", "2", "../linien.txt"});
+    m_platz.gut({"auswerten", "2"});
     m_platz.gut({"neu", "Fremd", "--modus", "E", "--verzeichnis", "fremd"});
     m_platz.gut({"--ja", "loeschen", "3"});
     fs::rename(host("beispiel"), wurzel / "beispiel");
-    schreiben(wurzel / "linien.txt", rover + " " + zweiter + "\r\n");
+    schreiben(wurzel / "linien.txt", "5503 5501\r\n5502 5501\r\n");
+    // The averaging comes from elsewhere.
+    const fs::path mittelung = host("programme/runa");
+    schreiben(mittelung, "#!/bin/sh\nexit 0\n");
+    fs::permissions(mittelung, fs::perms::owner_all);
     spiegeln(host(""), m_vorlage);
 }
 
@@ -177,6 +185,7 @@ Gestoert Stoerplatz::ausfuehren(const std::vector<std::string>& worte, const Sto
     int ende = 0;
     while (::waitpid(kind, &ende, 0) < 0 && errno == EINTR) {
     }
+    if (stoerung.nachher) stoerung.nachher();
     const Gestoert lauf{WIFEXITED(ende) ? WEXITSTATUS(ende) : -1, *zaehler, lesen(err)};
     ::munmap(gemeinsam, sizeof(int));
     return lauf;
@@ -249,11 +258,16 @@ const std::vector<Befehlsfall>& sichernde_befehle()
         {{"neu", "Zwei", "--modus", "B", "--verzeichnis", "zwei"}, false, "zwei"},
         {{"importieren", "fremd/003.INI", "--name", "Vier", "--nummer", "4"}, false, "fremd"},
         {{"basislinien", "2", "../linien.txt"}},
+        {{"--ja", "basislinie-loeschen", "2", linie + "-" + zweiter}},
+        {{"esa", "2"}},
+        {{"--ja", "rv", "2"}},
+        {{"mitteln", "1"}},
         {{"katalog", "machen", "../beispiel/katalog.txt"}},
         {{"katalog", "entfernen", "0598"}},
         {{"grenzen", "machen", "../beispiel/grenzen.txt"}},
         {{"auswerten", "1"}, true},
         {{"--ja", "wasoft", "1", "beides"}, true},
+        {{"--ja", "basis", "2", "beides"}, true},
     };
     return faelle;
 }

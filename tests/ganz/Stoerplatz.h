@@ -16,10 +16,11 @@ namespace jorv::hilfen {
 
 /// What befalls the n-th system call of the files.
 struct Stoerung {
-    int bei = 0;                        ///< 0: never
-    int grund = 0;                      ///< errno; 0: the process dies there
-    bool von_da_an = false;             ///< each later call fails too
-    std::function<void()> vorher = {};  ///< runs in the child before the command
+    int bei = 0;                         ///< 0: never
+    int grund = 0;                       ///< errno; 0: the process dies there
+    bool von_da_an = false;              ///< each later call fails too
+    std::function<void()> vorher = {};   ///< runs in the child before the command
+    std::function<void()> nachher = {};  ///< runs in the parent when the child has ended
 };
 
 struct Gestoert {

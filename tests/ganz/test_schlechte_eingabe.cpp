@@ -2,18 +2,19 @@
 // catalogue are the old or the new text, whole, and the next command works.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/mount.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 
 #include "ganz/Beispielplatz.h"
+#include "ganz/Kleine_Platte.h"
 
 namespace jorv {
 namespace {
 
 using hilfen::Beispielplatz;
+using hilfen::Kleine_Platte;
 using hilfen::lesen;
 using hilfen::schreiben;
 using ::testing::HasSubstr;
@@ -118,45 +119,24 @@ TEST(Ganz_SchlechteEingabe, KaputterKatalogWirdGemeldetUndLaesstSichErsetzen)
     }
 }
 
-// A disk of its own with settings, catalogue and project, which can be filled up to some bytes.
-class Kleine_Platte {
-public:
-    explicit Kleine_Platte(const Beispielplatz& platz) : m_ort(platz.host("platte"))
-    {
-        fs::create_directories(m_ort);
-        m_da = ::mount("tmpfs", m_ort.c_str(), "tmpfs", 0, "size=8m") == 0;
-        if (!m_da) return;
-        for (const fs::path& datei : {platz.host("JorvPlus.INI"), platz.host("programme/Grund_TOREL.CIF")}) {
-            fs::copy_file(datei, m_ort / datei.filename());
-            fs::remove(datei);
-            fs::create_symlink(m_ort / datei.filename(), datei);
-        }
+// Settings and catalogue move to the small disk, where the project will be.
+void auf_die_platte(const Beispielplatz& platz, const fs::path& ort)
+{
+    for (const fs::path& datei : {platz.host("JorvPlus.INI"), platz.host("programme/Grund_TOREL.CIF")}) {
+        fs::copy_file(datei, ort / datei.filename());
+        fs::remove(datei);
+        fs::create_symlink(ort / datei.filename(), datei);
     }
-    Kleine_Platte(const Kleine_Platte&) = delete;
-    Kleine_Platte& operator=(const Kleine_Platte&) = delete;
-    ~Kleine_Platte()
-    {
-        if (m_da) ::umount2(m_ort.c_str(), MNT_DETACH);
-    }
-    bool da() const { return m_da; }
-    void fuellen(std::uintmax_t bis_auf) const
-    {
-        const auto frei = fs::space(m_ort).available;
-        if (frei > bis_auf) schreiben(m_ort / "fuellung", std::string(frei - bis_auf, 'x'));
-    }
-    void leeren() const { fs::remove(m_ort / "fuellung"); }
-
-private:
-    fs::path m_ort;
-    bool m_da = false;
-};
+}
 
 TEST(Ganz_SchlechteEingabe, VollePlatteLaesstAltenOderNeuenStand)
 {
     const Stehende_Uhr uhr;
     const Beispielplatz platz;
-    const Kleine_Platte platte(platz);
+    fs::create_directories(platz.host("platte"));
+    const Kleine_Platte platte(platz.host("platte"), "8m");
     if (!platte.da()) GTEST_SKIP() << "A disk of its own needs the rights to mount one.";
+    auf_die_platte(platz, platz.host("platte"));
     platz.gut({"--ja", "loeschen", "1"});
     platz.gut({"neu", "Eng", "--modus", "E", "--verzeichnis", "platte/v"});
     platz.gut({"antennen", "1", "beispiel/antennen/antennen.atx"});

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <random>
 
+#include "ganz/Kleine_Platte.h"
 #include "ganz/Stoerplatz.h"
 #include "plattform/sperre.h"
 
@@ -17,6 +18,7 @@ namespace {
 
 using hilfen::Befehlsfall;
 using hilfen::Gestoert;
+using hilfen::Kleine_Platte;
 using hilfen::Stand;
 using hilfen::Stoerplatz;
 using hilfen::Stoerung;
@@ -245,6 +247,35 @@ TEST(Ganz_Stoerung, ZuLangeDateienLassenAltOderNeu)
                            }},
                       verkettet("files of at most ", static_cast<int>(laenge), " bytes"));
     }
+}
+
+void volle_platte(std::initializer_list<std::uintmax_t> freie_seiten, bool auch_rechnende)
+{
+    const Stoerplatz platz;
+    const Kleine_Platte platte(platz.host(""), "24m");
+    if (!platte.da()) GTEST_SKIP() << "A disk of its own needs the rights to mount one.";
+    platz.zuruecksetzen();
+    constexpr std::uintmax_t seite = 4096;
+    int misslungen = 0;
+    for (const auto& fall : hilfen::sichernde_befehle()) {
+        if (fall.rechnet && !auch_rechnende) continue;
+        const Pruefling p(platz, fall);
+        for (const std::uintmax_t frei : freie_seiten) {
+            const Stoerung voll{.vorher = [&] { platte.fuellen(frei * seite); }, .nachher = [&] { platte.leeren(); }};
+            misslungen += p.pruefen(voll, verkettet("with ", static_cast<int>(frei), " pages left")).status;
+        }
+    }
+    EXPECT_GT(misslungen, 10);
+}
+
+TEST(Ganz_Stoerung, EineVollePlatteLaesstAltOderNeu)
+{
+    volle_platte({0}, false);
+}
+
+TEST(Lang_Stoerung, EineVollePlatteLaesstAltOderNeu)
+{
+    volle_platte({0, 1, 2, 3, 5, 8, 20}, true);
 }
 
 // A program that has the project open keeps every other one from changing it; who only reads works beside it.

@@ -20,6 +20,13 @@ namespace jorv {
 namespace fs = std::filesystem;
 
 namespace {
+// That sanitizer makes a fork of each vfork, and a failed start can't be told from a program that ends.
+#ifdef __SANITIZE_THREAD__
+constexpr bool start_kann_scheitern = false;
+#else
+constexpr bool start_kann_scheitern = true;
+#endif
+
 fs::path skript(const hilfen::Arbeitsordner& ordner, const std::string& inhalt)
 {
     const fs::path pfad = ordner.host() / "kind";
@@ -37,7 +44,7 @@ TEST(Prozess, StatusFehlerausgabeUndOrdnerKommenZurueck)
     EXPECT_TRUE(ende.gestartet);
     EXPECT_EQ(ende.status, 7);
     EXPECT_EQ(ende.fehlerausgabe, ordner.host().string() + "\na b|c\"d\n");
-    EXPECT_FALSE(programm_ausfuehren(ordner.host() / "fehlt", {}, ordner.host(), 10).gestartet);
+    EXPECT_EQ(programm_ausfuehren(ordner.host() / "fehlt", {}, ordner.host(), 10).gestartet, !start_kann_scheitern);
     EXPECT_EQ(programm_ausfuehren(skript(ordner, "kill -9 $$"), {}, ordner.host(), 10).status, 128 + SIGKILL);
 }
 
@@ -92,6 +99,7 @@ TEST(Prozess, EinStartDerScheitertIstKeinKind)
         EXPECT_FALSE(programm_ausfuehren(kein_start, "/bin/true", {}, ordner.host(), 10).gestartet) << grund;
         EXPECT_FALSE(prozess_warten(kein_start, Dateisystem(), ordner.dos() + "\\a.bat")) << grund;
     }
+    if (!start_kann_scheitern) return;
     // Before the program runs: its folder is missing, it is no program, it may not be run.
     EXPECT_FALSE(programm_ausfuehren("/bin/true", {}, ordner.host() / "fehlt", 10).gestartet);
     const fs::path datei = skript(ordner, "exit 0");
@@ -150,6 +158,23 @@ TEST(Fensterstart, DerEditorIstDerEigeneEinPfadOderEinName)
     ASSERT_FALSE(fenster_starten(*start, Fensterausgabe::fenster).fehler);
     for (int i = 0; i < 500 && !fs::exists(ordner.host() / "gelesen"); ++i) ::usleep(10'000);
     EXPECT_TRUE(fs::exists(ordner.host() / "gelesen"));
+}
+
+TEST(Fensterstart, EinKindInEineDateiNenntSeinenStatusUndLaesstSichBeenden)
+{
+    const hilfen::Arbeitsordner ordner;
+    const fs::path ausgabe = ordner.host() / "ausgabe";
+    hilfen::schreiben(ausgabe, "");
+    for (const auto& [inhalt, beenden, status] :
+         {std::tuple{"echo da; exit 3", false, 3}, {"sleep 100 & wait", true, 128 + SIGTERM}}) {
+        const auto lauf = fenster_starten({skript(ordner, inhalt), {}, ordner.host()}, Fensterausgabe::datei, ausgabe);
+        ASSERT_FALSE(lauf.fehler);
+        EXPECT_TRUE(!beenden || !lauf.status());
+        if (beenden) lauf.beenden();
+        for (int i = 0; i < 500 && !lauf.status(); ++i) ::usleep(10'000);
+        EXPECT_EQ(lauf.status(), status);
+    }
+    EXPECT_EQ(hilfen::lesen(ausgabe), "da\n");
 }
 
 }  // namespace jorv

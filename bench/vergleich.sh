@@ -65,12 +65,12 @@ for i in $(seq 5001 5200); do cp 55020010.26o "quelle/${i}0010.26o"; done
 printf '[GRUNDEINSTELLUNGEN]\r\n' >JorvPlus.INI
 befehl() { "$bau/programme/jorv" --einstellungen JorvPlus.INI --ja "$@" >/dev/null 2>&1; }
 befehl neu Messung --modus B --verzeichnis ziel/v
-kopie=$(beste bash -c 'rm -rf k; cp -r quelle k; sync k')
+kopie=$(beste bash -c 'rm -rf k; cp -r quelle k; sync k/*')
 beginn=$(date +%s%N)
 befehl rinex 1 quelle
 ende=$(date +%s%N)
 awk -v a="$(((ende - beginn) / 1000))" -v k="$kopie" \
-  'BEGIN { printf "%-44s %9.2f ms %9.2f ms  difference %.0f ms\n    jorv rinex 1 quelle | cp -r quelle k; sync k\n", "whole command, against copying the same files", a / 1000, k, a / 1000 - k }'
+  'BEGIN { printf "%-44s %9.2f ms %9.2f ms  difference %.0f ms\n    jorv rinex 1 quelle | cp -r quelle k; sync k/*\n", "whole command, against copying the same files", a / 1000, k, a / 1000 - k }'
 
 echo "a rover's own cost and several at once"
 "$wurzel/bench/lauf.sh" "$bau" | tail -1

@@ -38,6 +38,8 @@ Abbild& Abbild::operator=(Abbild&& anderes) noexcept
     return *this;
 }
 
+void Abbild::einlagern() const {}
+
 Abbild::~Abbild()
 {
     if (m_bytes) UnmapViewOfFile(m_bytes);

@@ -252,6 +252,7 @@ std::error_code Dateisystem::host_kopieren(const fs::path& quelle, const fs::pat
     if (fs::equivalent(quelle, ziel, fehler) && !fehler) return {};
     const Abbild bild(quelle, fehler);
     if (fehler) return fehler;
+    bild.einlagern();
     Dateistufe stufe;
     return ersetzen(link_ziel(ziel), bild.text(), dauer, stufe);
 }

@@ -7,24 +7,24 @@
 #include "plattform/zahl.h"
 #include "suite/ergebnistext.h"
 #include "suite/felder.h"
+#include "suite/herkunft.h"
 #include "suite/koordinaten.h"
 #include "suite/spalten.h"
 #include "suite/stationen.h"
 #include "suite/versuche.h"
-#include "suite/virtuelle_station.h"
 
 namespace jorv::suite {
 
 namespace {
 
 constexpr std::string_view PROGRAMM = "wa2 1.0";
-constexpr double GLEICHZEITIG = 0.1;         // s between the tags of a common epoch
-constexpr double ZENIT_LAENGE = 10000.0;     // metres
-constexpr double ZENIT_HOEHE = 100.0;        // metres
+constexpr double GLEICHZEITIG = 0.1;      // s between the tags of a common epoch
+constexpr double ZENIT_LAENGE = 10000.0;  // metres
+constexpr double ZENIT_HOEHE = 100.0;     // metres
 // What a network leaves of the zenith delay: freely estimated it would cost an hour's height two centimetres.
 constexpr double ZENIT_NETZ = 0.003, ZENIT_GANG_NETZ = 2e-5;  // metres, metres per root of a second
-constexpr int ZONE_WEIT = 6;                 // degrees from the central meridian
-constexpr double SEKUNDEN_JE_EPOCHE = 0.05;  // time limit of the solver, far above what it needs
+constexpr int ZONE_WEIT = 6;                                  // degrees from the central meridian
+constexpr double SEKUNDEN_JE_EPOCHE = 0.05;                   // time limit of the solver, far above what it needs
 constexpr int SEKUNDEN_GRUND = 120;
 
 class Lauf {

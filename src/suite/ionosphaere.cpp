@@ -3,7 +3,7 @@
 #include <cmath>
 #include <map>
 
-#include "suite/netz_mehrdeutigkeiten.h"
+#include "suite/stationsreste.h"
 
 namespace jorv::suite {
 

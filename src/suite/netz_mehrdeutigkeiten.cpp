@@ -1,9 +1,10 @@
 #include "suite/netz_mehrdeutigkeiten.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 
-#include "suite/troposphaere.h"
+#include "suite/normalgleichung.h"
 
 namespace jorv::suite {
 
@@ -14,94 +15,15 @@ constexpr double WEITSPUR = LICHT / (FREQUENZ1 - FREQUENZ2), ENGSPUR = LICHT / (
 constexpr double QUADRATE = FREQUENZ1 * FREQUENZ1 - FREQUENZ2 * FREQUENZ2;
 constexpr double B1 = FREQUENZ1 * FREQUENZ1 / QUADRATE, B2 = -FREQUENZ2 * FREQUENZ2 / QUADRATE;
 
-constexpr double HOCH_GENUG = 6.0 * GRAD;
-constexpr double NOMINELL = 0.1;                          // s by which a tag may lie beside the full second
-constexpr double LUECKE = 90.0;                           // s, or three intervals
 constexpr double SPRUNG_IONO = 0.06, SPRUNG_FREI = 0.08;  // metres from one epoch to the next
 constexpr std::size_t BOGEN_EPOCHEN = 10;
 constexpr std::int64_t BOGEN_DAUER = 270;  // s
 constexpr double SIGMA = 0.010;            // of an ionosphere-free difference in the zenith each 30 s, metres
-constexpr double TAKT = 30.0;
 // What is expected of the relative zenith delay: metres, metres per hour, gradients in metres.
 constexpr std::size_t LUFTWERTE = 4;
 constexpr std::array<double, LUFTWERTE> SIGMA_LUFT = {0.15, 0.03, 0.0005, 0.0005};
 constexpr double SICHER = 0.12, NAHE = 0.25;  // cycles
 constexpr double BRUCH_HOECHSTENS = 0.13;
-
-double code1(const Messung& m)
-{
-    return m[Art::C1] != 0.0 ? m[Art::C1] : m[Art::P1];
-}
-
-double code2(const Messung& m)
-{
-    return m[Art::P2] != 0.0 ? m[Art::P2] : m[Art::C2];
-}
-
-bool verloren(const Messung& m)
-{
-    const auto schlupf = [&](Art art) {
-        const char c = m.schlupf[static_cast<std::size_t>(art)];
-        return c >= '0' && c <= '9' && (c - '0') % 2 == 1;
-    };
-    return schlupf(Art::L1) || schlupf(Art::L2);
-}
-
-// Whether an epoch of observations in that interval is left out as too dense.
-bool zu_dicht(std::int64_t sekunde, double intervall)
-{
-    const bool im_takt = intervall > 0 && intervall < TAKT && std::abs(std::remainder(TAKT, intervall)) < 1e-3;
-    return im_takt && sekunde % static_cast<std::int64_t>(TAKT) != 0;
-}
-
-// The running number of a satellite's arc at one station.
-struct Faden {
-    int bogen = 0;
-    std::optional<GpsZeit> zuletzt;
-};
-
-class Stationsrechner {
-public:
-    Stationsrechner(const Ort& ort, const Phasenzentrum& zentrum, const GpsZeit& zeit)
-        : m_ort(ort),
-          m_zentrum(zentrum),
-          m_luft(Troposphaerenmodell::voll, ort.blh, static_cast<double>(tag_im_jahr(zeit))),
-          m_niell(ort.blh, static_cast<double>(tag_im_jahr(zeit)))
-    {
-    }
-    std::optional<Rest> rechnen(const Messung& m, const Ephemeride& eph, const GpsZeit& zeit) const
-    {
-        const double code = code1(m);
-        const Satellitenlage lage = satellitenlage(eph, verschoben(zeit, -code / LICHT));
-        const Xyz sendung = lage.nach(-lage.uhr);
-        double dauer = code / LICHT;
-        for (int i = 0; i < 4; ++i) dauer = laenge(gedreht(sendung, dauer) - m_ort.xyz) / LICHT;
-        const Enu weg = enu(m_ort, gedreht(sendung, dauer) - m_ort.xyz);
-        const double strecke = dauer * LICHT;
-        const Enu richtung{weg.e / strecke, weg.n / strecke, weg.u / strecke};
-        const double hoehe = std::asin(richtung.u);
-        if (hoehe < HOCH_GENUG) return {};
-        const double modell = strecke - LICHT * lage.uhr + m_luft.laufzeit(hoehe);
-        Rest r;
-        r.satellit = m.satellit;
-        // The codes end at the antenna too: a metre of its height would be a wide lane.
-        const double eins = modell + m_zentrum.laenger(0, richtung), zwei = modell + m_zentrum.laenger(1, richtung);
-        r.l1 = m[Art::L1] * LAMBDA1 - eins;
-        r.l2 = m[Art::L2] * LAMBDA2 - zwei;
-        r.c1 = code - eins;
-        r.p2 = code2(m) - zwei;
-        r.sinus = richtung.u;
-        r.azimut = std::atan2(richtung.e, richtung.n);
-        r.feucht = m_niell.bei(hoehe).feucht;
-        return r;
-    }
-
-private:
-    const Ort& m_ort;
-    const Phasenzentrum& m_zentrum;
-    Luft m_luft;
-    Niell m_niell;
-};
 
 // A satellite's difference of two stations in one epoch.
 struct Differenz {
@@ -152,66 +74,6 @@ double median(std::vector<double> werte)
     return *mitte;
 }
 
-// Positive definite normal equations, dense.
-class Normalgleichung {
-public:
-    explicit Normalgleichung(std::size_t n) : m_n(n), m_matrix(n * n), m_rechts(n) {}
-    double& bei(std::size_t i, std::size_t k) { return m_matrix[i * m_n + k]; }
-    double& rechts(std::size_t i) { return m_rechts[i]; }
-
-    struct Loesung {
-        std::vector<double> wert, sigma;
-    };
-    /// Solution of the unknowns that are free, the others held at their values. Nothing when it is singular.
-    std::optional<Loesung> loesen(const std::vector<bool>& frei, const std::vector<double>& gehalten) const;
-
-private:
-    std::size_t m_n;
-    std::vector<double> m_matrix, m_rechts;
-};
-
-std::optional<Normalgleichung::Loesung> Normalgleichung::loesen(const std::vector<bool>& frei,
-                                                                const std::vector<double>& gehalten) const
-{
-    std::vector<std::size_t> wer;
-    for (std::size_t i = 0; i < m_n; ++i)
-        if (frei[i]) wer.push_back(i);
-    const std::size_t n = wer.size();
-    std::vector<double> u(n * n), y(n);
-    const auto bei = [&](std::size_t i, std::size_t k) -> double& { return u[i * n + k]; };
-    for (std::size_t i = 0; i < n; ++i) {  // Cholesky, lower triangle
-        for (std::size_t k = 0; k <= i; ++k) {
-            double s = m_matrix[wer[i] * m_n + wer[k]];
-            for (std::size_t j = 0; j < k; ++j) s -= bei(i, j) * bei(k, j);
-            if (i == k && s <= 0.0) return {};
-            bei(i, k) = i == k ? std::sqrt(s) : s / bei(k, k);
-        }
-        double s = m_rechts[wer[i]];
-        for (std::size_t j = 0; j < m_n; ++j)
-            if (!frei[j]) s -= m_matrix[wer[i] * m_n + j] * gehalten[j];
-        for (std::size_t j = 0; j < i; ++j) s -= bei(i, j) * y[j];
-        y[i] = s / bei(i, i);
-    }
-    Loesung l{gehalten, std::vector<double>(m_n)};
-    std::vector<double> spalte(n);  // of the inverse of the triangle: its squares add up to a variance
-    for (std::size_t i = 0; i < n; ++i) {
-        double q = 0;
-        for (std::size_t k = i; k < n; ++k) {
-            double s = k == i ? 1.0 : 0.0;
-            for (std::size_t j = i; j < k; ++j) s -= bei(k, j) * spalte[j];
-            spalte[k] = s / bei(k, k);
-            q += spalte[k] * spalte[k];
-        }
-        l.sigma[wer[i]] = std::sqrt(q);
-    }
-    for (std::size_t i = n; i-- > 0;) {
-        double s = y[i];
-        for (std::size_t k = i + 1; k < n; ++k) s -= bei(k, i) * l.wert[wer[k]];
-        l.wert[wer[i]] = s / bei(i, i);
-    }
-    return l;
-}
-
 class Paarrechner {
 public:
     Paarrechner(double intervall) : m_intervall(intervall) {}
@@ -231,7 +93,7 @@ private:
     Normalgleichung normalgleichung(double mitte) const;
     void engspur(Paar& paar);
     void ergebnis(Paar& paar) const;
-    double gewicht(const Differenz& d) const { return d.sinus * d.sinus * std::min(1.0, m_intervall / TAKT); }
+    double gewicht(const Differenz& d) const { return d.sinus * d.sinus * std::min(1.0, m_intervall / NETZTAKT); }
 
     double m_intervall;
     std::vector<Differenzepoche> m_epochen;
@@ -260,7 +122,7 @@ void Paarrechner::epoche(const Restepoche& a, const Restepoche& b)
         if (alt != m_stand.end()) {
             const Stand& s = alt->second;
             n.weiter = s.bogen_a == x.bogen && s.bogen_b == y.bogen &&
-                       static_cast<double>(a.sekunde - s.sekunde) <= std::max(LUECKE, 3.0 * m_intervall) &&
+                       static_cast<double>(a.sekunde - s.sekunde) <= std::max(BOGENLUECKE, 3.0 * m_intervall) &&
                        std::abs((n.d.l1 - n.d.l2) - (s.l1 - s.l2)) <= SPRUNG_IONO;
             if (n.weiter) zuwachs.push_back(n.d.frei() - s.frei);
         }
@@ -416,45 +278,6 @@ Paar Paarrechner::rechnen(const std::vector<Restepoche>& erste, const std::vecto
 }
 
 }  // namespace
-
-std::vector<Restepoche> stationsreste(const RinexBeobachtung& daten, const Ort& ort, const Phasenzentrum& zentrum,
-                                      const Bahnen& bahnen)
-{
-    std::vector<Restepoche> alle;
-    if (daten.epochen.empty()) return alle;
-    const Stationsrechner rechner(ort, zentrum, daten.epochen.front().zeit);
-    const double intervall = daten.intervall(), luecke = std::max(LUECKE, 3.0 * intervall);
-    std::map<int, Faden> faeden;
-    for (const Epoche& e : daten.epochen) {
-        const GpsZeit nominell = auf_sekunde(e.zeit);
-        if (e.kennung == 1)
-            for (auto& [satellit, faden] : faeden) ++faden.bogen;
-        Restepoche epoche{nominell.sekunde, {}};
-        const bool dicht = zu_dicht(nominell.sekunde, intervall);
-        for (std::size_t i = 0; i < e.anzahl; ++i) {
-            const Messung& m = daten.messungen[e.erste + i];
-            Faden& faden = faeden[m.satellit];
-            if (verloren(m) || (faden.zuletzt && abstand(e.zeit, *faden.zuletzt) > luecke)) ++faden.bogen;
-            faden.zuletzt = e.zeit;
-            if (dicht) continue;
-            if (m[Art::L1] == 0.0 || m[Art::L2] == 0.0 || code1(m) == 0.0 || code2(m) == 0.0) continue;
-            const auto satz = bahnen.find(m.satellit);
-            const Ephemeride* eph =
-                satz == bahnen.end() ? nullptr : passende_ephemeride(satz->second, m.satellit, nominell);
-            if (!eph) continue;
-            auto rest = rechner.rechnen(m, *eph, e.zeit);
-            if (!rest) continue;
-            rest->bogen = faden.bogen;
-            epoche.reste.push_back(*rest);
-        }
-        if (dicht) continue;
-        std::sort(epoche.reste.begin(), epoche.reste.end(),
-                  [](const Rest& a, const Rest& b) { return a.satellit < b.satellit; });
-        const bool doppelt = !alle.empty() && alle.back().sekunde == epoche.sekunde;
-        if (!doppelt && std::abs(abstand(e.zeit, nominell)) < NOMINELL) alle.push_back(std::move(epoche));
-    }
-    return alle;
-}
 
 bool Paar::brauchbar() const
 {

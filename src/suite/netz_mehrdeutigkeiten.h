@@ -3,35 +3,11 @@
 // atmosphere, of the orbit's errors and of the noise, from which the corrections of a virtual station are interpolated.
 
 #include <cstdint>
-#include <map>
-#include <string>
 #include <vector>
 
-#include "suite/bahn.h"
-#include "suite/phasenzentrum.h"
-#include "suite/rinex_beobachtung.h"
+#include "suite/stationsreste.h"
 
 namespace jorv::suite {
-
-using Bahnen = std::map<int, std::vector<Ephemeride>>;  // by satellite
-
-/// What a station measured to one satellite, less the way to it, satellite clock, modelled troposphere and antenna.
-struct Rest {
-    int satellit = 0;
-    int bogen = 0;                          // counts the station's own interruptions of that satellite
-    double l1 = 0, l2 = 0, c1 = 0, p2 = 0;  // metres
-    double sinus = 0, azimut = 0;           // sine of the elevation, radians
-    double feucht = 0;                      // mapping of a wet zenith delay
-};
-struct Restepoche {
-    std::int64_t sekunde = 0;  // GPS, the nominal one
-    std::vector<Rest> reste;   // by satellite
-};
-
-/// The residuals of all dual-frequency observations over 6 degrees; of denser ones those each half minute, which is
-/// what the atmosphere changes in.
-std::vector<Restepoche> stationsreste(const RinexBeobachtung& daten, const Ort& ort, const Phasenzentrum& zentrum,
-                                      const Bahnen& bahnen);
 
 /// Phase residuals of a pair, second station minus first, with fixed integers. All of an epoch share the clocks and one
 /// unknown integer of each frequency.

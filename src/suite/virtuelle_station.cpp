@@ -4,13 +4,14 @@
 
 #include "plattform/text.h"
 #include "plattform/zahl.h"
+#include "suite/herkunft.h"
 #include "suite/koordinaten.h"
 #include "suite/netz.h"
 #include "suite/netz_modell.h"
 #include "suite/rinex_schreiben.h"
 #include "suite/spalten.h"
 #include "suite/stationen.h"
-#include "suite/verschiebung.h"
+#include "suite/uebertragung.h"
 
 namespace jorv::suite {
 
@@ -19,15 +20,7 @@ namespace {
 constexpr std::string_view PROGRAMM = "wav2 1.0";
 constexpr double WEIT = 50000.0;  // metres; beyond it a displaced station rarely gives a fixed solution
 
-constexpr std::string_view HERKUNFT_ANFANG = "VIRTUELLE STATION AUS ";
-
-constexpr std::string_view HERKUNFT_NETZ = "NETZ";
 constexpr double NETZLUECKEN = 0.4;  // share of the observations that a network may cost
-
-struct Statistik {
-    std::size_t ohne_bahn = 0, ohne_code = 0, unter_maske = 0, ohne_netz = 0, glonass = 0;
-    double groesste = 0.0, kleinste = 0.0;
-};
 
 GpsZeit tageszeit(const GpsZeit& tag, int hhmmss)
 {
@@ -56,47 +49,6 @@ std::optional<Zeitspanne> spanne_von(const Wav2Aufruf& aufruf, const Zeitspanne&
     return beste;
 }
 
-double code(const Messung& m)
-{
-    for (const Art art : {Art::C1, Art::P1, Art::P2})
-        if (m[art] != 0.0) return m[art];
-    return 0.0;
-}
-
-/// The shift of an observation with the ionosphere's delay on L1 (metres of a code) and the frequencies of its phases.
-struct Bewegt {
-    Verschiebung um;
-    double frequenz1 = FREQUENZ1, frequenz2 = FREQUENZ2;
-    double iono = 0.0;
-};
-
-void verschieben(Messung& m, const Bewegt& bewegt)
-{
-    const double strecke = bewegt.um.strecke;
-    const auto dazu = [&](Art art, double betrag) {
-        double& wert = m.wert[static_cast<std::size_t>(art)];
-        if (wert != 0.0) wert += betrag;
-    };
-    const auto iono = [&](double frequenz) { return bewegt.iono * FREQUENZ1 * FREQUENZ1 / (frequenz * frequenz); };
-    const double iono1 = iono(bewegt.frequenz1), iono2 = iono(bewegt.frequenz2);
-    for (const Art art : {Art::C1, Art::P1}) dazu(art, strecke + iono1);
-    for (const Art art : {Art::C2, Art::P2}) dazu(art, strecke + iono2);
-    dazu(Art::L1, (strecke - iono1) * bewegt.frequenz1 / LICHT);
-    dazu(Art::L2, (strecke - iono2) * bewegt.frequenz2 / LICHT);
-}
-
-void verbessern(Messung& m, const Korrektur& k)
-{
-    const auto dazu = [&](Art art, double betrag) {
-        double& wert = m.wert[static_cast<std::size_t>(art)];
-        if (wert != 0.0) wert += betrag;
-    };
-    for (const Art art : {Art::C1, Art::P1}) dazu(art, k.code1());
-    for (const Art art : {Art::C2, Art::P2}) dazu(art, k.code2());
-    dazu(Art::L1, k.l1 * FREQUENZ1 / LICHT);
-    dazu(Art::L2, k.l2 * FREQUENZ2 / LICHT);
-}
-
 class Lauf {
 public:
     Lauf(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll)
@@ -109,14 +61,11 @@ private:
     bool rover_lesen();
     std::vector<Netzstation> kandidaten();
     void modell_ablegen(const Netz& netz);
-    void netz_benutzen(const RinexBeobachtung& daten);
-    void gefaelle_setzen(const Netz& netz, bool mit_stationen);
+    void uebertragen(RinexBeobachtung& daten);
     std::optional<Beobachtungsdatei> master_lesen();
     void glonass_bereitstellen();
     bool navigation_bereitstellen();
-    std::optional<Bewegt> bewegt(const Verschieber& verschieber, const Messung& m, const GpsZeit& zeit,
-                                 double strecke) const;
-    void uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach);
+    Uebertragungsauftrag auftrag(const Netz& netz, bool mit_korrekturen) const;
     void kopf_setzen(RinexBeobachtung& daten, const Ort& nach);
     bool ausgeben(const RinexBeobachtung& daten);
     void berichten(const RinexBeobachtung& daten);
@@ -139,8 +88,7 @@ private:
     Bahnen m_bahnen;
     Glonassnavigation m_glonass;
     std::optional<Netz> m_netz;
-    Ionosphaerengefaelle m_gefaelle;
-    Statistik m_statistik;
+    Uebertragungsbericht m_bericht;
 };
 
 bool Lauf::rover_lesen()
@@ -228,60 +176,6 @@ bool Lauf::navigation_bereitstellen()
     return true;
 }
 
-// Nothing for a satellite without an orbit.
-std::optional<Bewegt> Lauf::bewegt(const Verschieber& verschieber, const Messung& m, const GpsZeit& zeit,
-                                   double strecke) const
-{
-    if (m.satellit > GLONASS) {
-        const Glonasssatz* satz = passender_satz(m_glonass.saetze, m.satellit, zeit);
-        if (!satz) return {};
-        return Bewegt{verschieber.rechnen(*satz, strecke), glonass_frequenz1(satz->kanal),
-                      glonass_frequenz2(satz->kanal)};
-    }
-    const auto saetze = m_bahnen.find(m.satellit);
-    const Ephemeride* eph = saetze == m_bahnen.end() ? nullptr : passende_ephemeride(saetze->second, m.satellit, zeit);
-    if (!eph) return {};
-    return Bewegt{verschieber.rechnen(*eph, strecke)};
-}
-
-void Lauf::uebertragen(RinexBeobachtung& daten, const Ort& von, const Ort& nach)
-{
-    const double maske = m_aufruf.elevation * GRAD;
-    std::size_t behalten = 0;  // observations move forward in their own array
-    for (Epoche& e : daten.epochen) {
-        const Verschieber verschieber(von, nach, m_aufruf.modell, e.zeit);
-        const std::size_t erste = behalten;
-        for (std::size_t i = 0; i < e.anzahl; ++i) {
-            Messung m = daten.messungen[e.erste + i];
-            // The network knows GPS alone, and what it doesn't correct would spoil what it does.
-            if (m.satellit > GLONASS && m_netz) continue;
-            const double strecke = code(m);
-            auto neu = strecke == 0.0 ? std::nullopt : bewegt(verschieber, m, e.zeit, strecke);
-            m_statistik.ohne_code += strecke == 0.0;
-            m_statistik.ohne_bahn += strecke != 0.0 && !neu;
-            if (!neu) continue;
-            m_statistik.unter_maske += neu->um.elevation < maske;
-            if (neu->um.elevation < maske) continue;
-            m_statistik.groesste = std::max(m_statistik.groesste, neu->um.strecke);
-            m_statistik.kleinste = std::min(m_statistik.kleinste, neu->um.strecke);
-            m_statistik.glonass += m.satellit > GLONASS;
-            neu->iono = m_gefaelle.bei(neu->um.satellit, e.zeit);
-            verschieben(m, *neu);
-            if (m_netz) {
-                const auto k = korrektur_bei(m_netz->korrekturen, e.zeit, m.satellit);
-                m_statistik.ohne_netz += !k;
-                if (!k) continue;
-                verbessern(m, *k);
-            }
-            daten.messungen[behalten++] = m;
-        }
-        e.erste = erste;
-        e.anzahl = behalten - erste;
-    }
-    daten.messungen.resize(behalten);
-    std::erase_if(daten.epochen, [](const Epoche& e) { return e.anzahl == 0; });
-}
-
 // The model doesn't ask where the rover lies, so it may exist without corrections.
 void Lauf::modell_ablegen(const Netz& netz)
 {
@@ -300,40 +194,41 @@ void Lauf::modell_ablegen(const Netz& netz)
         m_protokoll.fehler(verkettet("Die Datei ", m_aufruf.modelldatei, " konnte nicht geschrieben werden!"));
 }
 
-// Whether the network's corrections reach far enough for this master; else the station stays a shifted one.
-void Lauf::netz_benutzen(const RinexBeobachtung& daten)
+Uebertragungsauftrag Lauf::auftrag(const Netz& netz, bool mit_korrekturen) const
+{
+    Uebertragungsauftrag u{Ort(m_master.ort),
+                           Ort(m_virtuell),
+                           m_aufruf.modell,
+                           m_aufruf.elevation * GRAD,
+                           m_bahnen,
+                           m_glonass.saetze,
+                           {},
+                           nullptr};
+    if (mit_korrekturen) u.korrekturen = &netz.korrekturen;
+    if (m_aufruf.ionosphaere) u.gefaelle = gefaelle(netz, u.von, u.nach, mit_korrekturen);
+    return u;
+}
+
+// With the network's corrections where they reach far enough for this master; else the station is a shifted one.
+void Lauf::uebertragen(RinexBeobachtung& daten)
 {
     Netz netz =
         netz_rechnen({m_stationen, m_virtuell, m_spanne, m_aufruf.antennendatei}, m_bahnen, m_ordner, m_protokoll);
     if (!m_aufruf.modelldatei.empty()) modell_ablegen(netz);
-    gefaelle_setzen(netz, !netz.korrekturen.empty());
-    if (netz.korrekturen.empty()) return;
-    m_netz = std::move(netz);
-    RinexBeobachtung versuch = daten;
-    uebertragen(versuch, Ort(m_master.ort), Ort(m_virtuell));
-    const auto verloren = static_cast<double>(m_statistik.ohne_netz);
-    const double anteil = verloren / std::max(1.0, verloren + static_cast<double>(versuch.messungen.size()));
-    m_statistik = {};
-    if (anteil <= NETZLUECKEN) return;
-    m_protokoll.zeile(
-        verkettet("Netz             nicht benutzt: ", fest(100.0 * anteil, 0), " % der Beobachtungen fehlten"));
-    gefaelle_setzen(*m_netz, false);
-    m_netz.reset();
-}
-
-// What the stations' weights don't bring along: the layer at the virtual place less the layer at theirs.
-void Lauf::gefaelle_setzen(const Netz& netz, bool mit_stationen)
-{
-    m_gefaelle = {};
-    if (!m_aufruf.ionosphaere) return;
-    m_gefaelle.schicht = netz.ionosphaere;
-    double rest = 1.0;
-    for (std::size_t k = 0; mit_stationen && k < netz.stationen.size(); ++k) {
-        m_gefaelle.orte.push_back({Ort(netz.stationen[k].ort), -netz.gewichte[k]});
-        rest -= netz.gewichte[k];
+    if (!netz.korrekturen.empty()) {
+        RinexBeobachtung versuch = daten;
+        m_bericht = jorv::suite::uebertragen(versuch, auftrag(netz, true));
+        const auto verloren = static_cast<double>(m_bericht.ohne_netz);
+        const double anteil = verloren / std::max(1.0, verloren + static_cast<double>(versuch.messungen.size()));
+        if (anteil <= NETZLUECKEN) {
+            daten = std::move(versuch);
+            m_netz = std::move(netz);
+            return;
+        }
+        m_protokoll.zeile(
+            verkettet("Netz             nicht benutzt: ", fest(100.0 * anteil, 0), " % der Beobachtungen fehlten"));
     }
-    m_gefaelle.orte.push_back({Ort(m_master.ort), -rest});
-    m_gefaelle.orte.push_back({Ort(m_virtuell), 1.0});
+    m_bericht = jorv::suite::uebertragen(daten, auftrag(netz, false));
 }
 
 void Lauf::kopf_setzen(RinexBeobachtung& daten, const Ort& nach)
@@ -356,7 +251,7 @@ bool Lauf::ausgeben(const RinexBeobachtung& daten)
     if (!m_ordner.schreiben(name, text))
         return abbruch(verkettet("Die Datei ", name, " konnte nicht geschrieben werden!"));
     const std::string gnav = mit_art(name, 'g');
-    if (m_statistik.glonass > 0 && !m_ordner.schreiben(gnav, glonass_text(m_glonass)))
+    if (m_bericht.glonass > 0 && !m_ordner.schreiben(gnav, glonass_text(m_glonass)))
         return abbruch(verkettet("Die Datei ", gnav, " konnte nicht geschrieben werden!"));
     m_protokoll.meldung(verkettet("Virtuelle Station ", name, " aus ", m_master.name, " (",
                                   fest(m_master.strecke / 1000.0, 3), " km)",
@@ -373,16 +268,15 @@ void Lauf::berichten(const RinexBeobachtung& daten)
     if (m_netz) {
         std::string namen;
         for (const Hilfsstation& h : m_netz->stationen) namen += verkettet(" ", h.name);
-        m_protokoll.zeile(
-            verkettet("  im Netz mit   ", namen, ", ohne Korrektur weggelassen: ", m_statistik.ohne_netz));
+        m_protokoll.zeile(verkettet("  im Netz mit   ", namen, ", ohne Korrektur weggelassen: ", m_bericht.ohne_netz));
     }
     m_protokoll.zeile(verkettet("  Epochen        ", daten.epochen.size()));
     m_protokoll.zeile(verkettet("  Beobachtungen  ", daten.messungen.size(),
-                                m_statistik.glonass > 0 ? verkettet(", davon GLONASS ", m_statistik.glonass) : ""));
-    m_protokoll.zeile(verkettet("  unter ", m_aufruf.elevation, " Grad weggelassen: ", m_statistik.unter_maske));
-    m_protokoll.zeile(verkettet("  ohne Bahn      ", m_statistik.ohne_bahn, ", ohne Code ", m_statistik.ohne_code));
+                                m_bericht.glonass > 0 ? verkettet(", davon GLONASS ", m_bericht.glonass) : ""));
+    m_protokoll.zeile(verkettet("  unter ", m_aufruf.elevation, " Grad weggelassen: ", m_bericht.unter_maske));
+    m_protokoll.zeile(verkettet("  ohne Bahn      ", m_bericht.ohne_bahn, ", ohne Code ", m_bericht.ohne_code));
     m_protokoll.zeile(
-        verkettet("  Verschiebung   ", fest(m_statistik.kleinste, 3), " bis ", fest(m_statistik.groesste, 3), " m"));
+        verkettet("  Verschiebung   ", fest(m_bericht.kleinste, 3), " bis ", fest(m_bericht.groesste, 3), " m"));
     if (m_master.strecke > WEIT)
         m_protokoll.warnung(
             verkettet("Die Station ", m_master.name, " ist ", fest(m_master.strecke / 1000.0, 1), " km entfernt."));
@@ -393,37 +287,14 @@ bool Lauf::rechnen()
     if (!rover_lesen()) return false;
     auto daten = master_lesen();
     if (!daten || !navigation_bereitstellen()) return false;
-    const Ort von(m_master.ort), nach(m_virtuell);
-    netz_benutzen(daten->daten);
-    uebertragen(daten->daten, von, nach);
+    uebertragen(daten->daten);
     if (daten->daten.epochen.empty()) return abbruch("Kein Satellit mit Beobachtungen und Bahn im Zeitraum!");
-    kopf_setzen(daten->daten, nach);
+    kopf_setzen(daten->daten, Ort(m_virtuell));
     berichten(daten->daten);
     return ausgeben(daten->daten);
 }
 
 }  // namespace
-
-std::string herkunft_text(const Herkunft& herkunft)
-{
-    std::string text(HERKUNFT_ANFANG);
-    anhaengen_links(text, herkunft.station, 4);
-    anhaengen_fest(text, herkunft.strecke, 11, 1);
-    text.append(" m  DH");
-    anhaengen_fest(text, herkunft.hoehenunterschied, 9, 1);
-    text.append(" m");
-    if (herkunft.netz) text.append(" ").append(HERKUNFT_NETZ);
-    return text;
-}
-
-std::optional<Herkunft> herkunft_lesen(std::string_view kommentar)
-{
-    if (!kommentar.starts_with(HERKUNFT_ANFANG)) return {};
-    const std::string_view rest = kommentar.substr(HERKUNFT_ANFANG.size());
-    const auto strecke = spaltenzahl(spalten(rest, 4, 11)), hoehe = spaltenzahl(spalten(rest, 21, 9));
-    if (!strecke || !hoehe) return {};
-    return Herkunft{std::string(rest.substr(0, 4)), *strecke, *hoehe, spalten(rest, 33, 4) == HERKUNFT_NETZ};
-}
 
 int wav2(const Wav2Aufruf& aufruf, const Arbeitsordner& ordner, const Uhr& uhr, Protokoll& protokoll)
 {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "suite/Pruefdaten.h"
+#include "suite/herkunft.h"
 #include "suite/stationen.h"
 
 namespace jorv::suite {

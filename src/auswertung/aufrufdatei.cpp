@@ -7,6 +7,27 @@
 
 namespace jorv {
 
+namespace {
+
+// `erste_zeile` is the first line of the message about a failure.
+Fehler batchdatei_schreiben(Global& g, std::string_view bytes, std::string_view erste_zeile)
+{
+    if (!g.dateien.schreiben(batchdatei(g), bytes, Dauer::fluechtig)) return Fehler::keiner;
+    stop_melden(g, datei_meldung(erste_zeile, batchdatei(g), u8"konnte nicht angelegt/überschrieben werden!"_w));
+    return Fehler::gesetzt;
+}
+
+// The stop for antenna files of the old format.
+void apc_melden(Global& g)
+{
+    stop_melden(g,
+                u8"Antennen-Dateien im Format *.apc werden von JorvPlus nicht mehr unterstützt!\n"
+                u8"Wenn möglich Antennen-Dateien im Format *.atx verwenden oder die Vorversion Jorv für die "
+                u8"Auswertung nutzen."_w);
+}
+
+}  // namespace
+
 std::string batchdatei(const Global& g)
 {
     return Verfahrens_Datei(g, ".BAT");
@@ -25,13 +46,6 @@ void aufrufdatei_schreiben(Global& g, Aufruftext text)
                                  verkettet(artikel, u8" Batchdatei konnte nicht angelegt/überschrieben werden!"_w)));
 }
 
-Fehler batchdatei_schreiben(Global& g, std::string_view bytes, std::string_view erste_zeile)
-{
-    if (!g.dateien.schreiben(batchdatei(g), bytes, Dauer::fluechtig)) return Fehler::keiner;
-    stop_melden(g, datei_meldung(erste_zeile, batchdatei(g), u8"konnte nicht angelegt/überschrieben werden!"_w));
-    return Fehler::gesetzt;
-}
-
 bool darf_ueberschreiben(Global& g, std::string_view kopf, const std::string& datei)
 {
     if (!g.dateien.vorhanden(datei)) return true;
@@ -39,12 +53,19 @@ bool darf_ueberschreiben(Global& g, std::string_view kopf, const std::string& da
     return g.oberflaeche->frage(Symbol::frage, frage, Antwort::nein) == Antwort::ja;
 }
 
-void apc_melden(Global& g)
+Fehler einzelbatch_ablegen(Global& g, Batchtext& batch, const std::function<void()>& auswertung, Aufruftext text)
 {
-    stop_melden(g,
-                u8"Antennen-Dateien im Format *.apc werden von JorvPlus nicht mehr unterstützt!\n"
-                u8"Wenn möglich Antennen-Dateien im Format *.atx verwenden oder die Vorversion Jorv für die "
-                u8"Auswertung nutzen."_w);
+    const bool alte_antennen = batch.wert("ANT") == "APC";
+    if (!alte_antennen) auswertung();
+    if (const Fehler fehler = batchdatei_schreiben(g, batch.text(), "Die Batchdatei:"); ist_fehler(fehler))
+        return fehler;
+    Datum_setzen(g);
+    if (alte_antennen) {
+        apc_melden(g);
+        return Fehler::gesetzt;
+    }
+    aufrufdatei_schreiben(g, text);
+    return Fehler::keiner;
 }
 
 Fehler gesamtbatch_ablegen(Global& g, std::string_view bytes)

@@ -1,9 +1,11 @@
 // The call file Jorv.BAT: the file that is started. It shows a waiting text and hands over to the project's batch.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
+#include "auswertung/batchtext.h"
 #include "modell/Global.h"
 #include "plattform/fehler.h"
 
@@ -19,14 +21,14 @@ enum class Aufruftext { der_Batchdatei, die_Batchdatei };
 /// Writes the seven lines anew, whole. A failure is shown and nothing more: the caller goes on with what lies there.
 void aufrufdatei_schreiben(Global& g, Aufruftext text = Aufruftext::der_Batchdatei);
 
-/// Writes the project's batch whole. A failure is shown, `erste_zeile` is the first line of its message.
-Fehler batchdatei_schreiben(Global& g, std::string_view bytes, std::string_view erste_zeile);
-
 /// Asks before a file is replaced, "no" being the default; true also when there is none. `kopf` names the kind of file.
 bool darf_ueberschreiben(Global& g, std::string_view kopf, const std::string& datei);
 
-/// The stop for antenna files of the old format.
-void apc_melden(Global& g);
+/// The end of a batch for one rover or baseline: `auswertung` adds the calls of the suite, unless the antenna files are
+/// of the old format, which stops the batch in front of them; files it, stamps the project, writes the call file.
+/// Failure has shown its message.
+Fehler einzelbatch_ablegen(Global& g, Batchtext& batch, const std::function<void()>& auswertung,
+                           Aufruftext text = Aufruftext::der_Batchdatei);
 
 /// The end of a whole-project command: files the batch, stamps the project, writes the call file. Failure has shown its
 /// message.

@@ -119,17 +119,8 @@ Fehler basis_batch_einzeln(Global& g, const std::string& text)
     basislinien_namen(batch, basislinie);
     batchkopf(g, batch, titel_basislinien);
     batch.zeilen(vorbereitung);
-    const bool alte_antennen = batch.wert("ANT") == "APC";
-    if (!alte_antennen) auswertung(g, batch, basislinie);
-    if (const Fehler fehler = batchdatei_schreiben(g, batch.text(), "Die Batchdatei:"); ist_fehler(fehler))
-        return fehler;
-    Datum_setzen(g);
-    if (alte_antennen) {
-        apc_melden(g);
-        return Fehler::gesetzt;
-    }
-    aufrufdatei_schreiben(g, Aufruftext::die_Batchdatei);
-    return Fehler::keiner;
+    return einzelbatch_ablegen(
+        g, batch, [&] { auswertung(g, batch, basislinie); }, Aufruftext::die_Batchdatei);
 }
 
 }  // namespace jorv

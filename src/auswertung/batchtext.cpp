@@ -35,6 +35,16 @@ std::string_view Batchtext::wert(std::string_view name) const
 
 std::string Batchtext::einsetzen(std::string_view vorlage) const
 {
+    return ersetzt(vorlage, true);
+}
+
+std::string Batchtext::dateiname(std::string_view vorlage) const
+{
+    return ersetzt(vorlage, false);
+}
+
+std::string Batchtext::ersetzt(std::string_view vorlage, bool als_wort) const
+{
     std::string fertig;
     while (!vorlage.empty()) {
         const auto auf = vorlage.find('{');
@@ -42,8 +52,8 @@ std::string Batchtext::einsetzen(std::string_view vorlage) const
         if (zu == std::string_view::npos) break;
         fertig += vorlage.substr(0, auf);
         const std::string_view name = vorlage.substr(auf + 1, zu - auf - 1);
-        // The project's name is for people, the others are words of commands.
-        fertig += name == "VNAME" ? std::string(wert(name)) : batch_wort(wert(name));
+        // The project's name is for people.
+        fertig += als_wort && name != "VNAME" ? batch_wort(wert(name)) : std::string(wert(name));
         vorlage.remove_prefix(zu + 1);
     }
     return fertig.append(vorlage);

@@ -30,8 +30,10 @@ public:
     void setzen(std::string_view name, std::string_view wert);
     std::string_view wert(std::string_view name) const;
 
-    /// The template with its names replaced; a name without a value becomes empty.
+    /// The template with its names replaced by words of a command; a name without a value becomes empty.
     std::string einsetzen(std::string_view vorlage) const;
+    /// The name of a file that a command with this template means.
+    std::string dateiname(std::string_view vorlage) const;
 
     void zeile(std::string_view vorlage, Zeilenart art = Zeilenart::text);
     void zeilen(std::span<const Batchzeile> tabelle);
@@ -41,6 +43,8 @@ public:
     const std::string& text() const { return m_text; }
 
 private:
+    std::string ersetzt(std::string_view vorlage, bool als_wort) const;
+
     std::vector<std::pair<std::string, std::string>> m_namen;
     std::string m_text;
 };

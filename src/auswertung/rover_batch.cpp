@@ -180,22 +180,6 @@ void auswertung_fremd(const Global& g, Batchtext& batch, int index)
     ende(batch, kopieren_fremd);
 }
 
-// Antenna files of the old format stop the batch in front of its first call of the suite.
-Fehler abschliessen(Global& g, Batchtext& batch, void (*auswertung)(const Global&, Batchtext&, int), int index)
-{
-    const bool alte_antennen = batch.wert("ANT") == "APC";
-    if (!alte_antennen) auswertung(g, batch, index);
-    if (const Fehler fehler = batchdatei_schreiben(g, batch.text(), "Die Batchdatei:"); ist_fehler(fehler))
-        return fehler;
-    Datum_setzen(g);
-    if (alte_antennen) {
-        apc_melden(g);
-        return Fehler::gesetzt;
-    }
-    aufrufdatei_schreiben(g);
-    return Fehler::keiner;
-}
-
 Fehler ohne_zuordnung(Global& g, std::string_view rover, std::string_view text)
 {
     stop_melden(g, verkettet("Zum ROVER:", rover, "\n", text));
@@ -209,7 +193,7 @@ std::vector<std::string> alte_ergebnisse(const Global& g, const std::string& rov
     Batchtext batch(g);
     rover_namen(batch, rover);
     std::vector<std::string> dateien;
-    for (const auto datei : veraltete) dateien.push_back(batch.einsetzen(datei));
+    for (const auto datei : veraltete) dateien.push_back(batch.dateiname(datei));
     return dateien;
 }
 
@@ -222,7 +206,7 @@ Fehler rover_batch_vrs(Global& g, const std::string& rover)
     rover_namen(batch, rover);
     batch.setzen("STALIST", stationsliste(g.ROVER_TOREL[index]));
     anfang(g, batch, vorbereitung_vrs);
-    return abschliessen(g, batch, auswertung_vrs, index);
+    return einzelbatch_ablegen(g, batch, [&] { auswertung_vrs(g, batch, index); });
 }
 
 Fehler rover_batch_fremd(Global& g, const std::string& rover)
@@ -234,7 +218,7 @@ Fehler rover_batch_fremd(Global& g, const std::string& rover)
     rover_namen(batch, rover);
     batch.setzen("VRS", g.ROVER_VIRT[index].VIRT_Dateiname);
     anfang(g, batch, vorbereitung_fremd);
-    return abschliessen(g, batch, auswertung_fremd, index);
+    return einzelbatch_ablegen(g, batch, [&] { auswertung_fremd(g, batch, index); });
 }
 
 }  // namespace jorv

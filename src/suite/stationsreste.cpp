@@ -32,11 +32,12 @@ bool verloren(const Messung& m)
     return schlupf(Art::L1) || schlupf(Art::L2);
 }
 
-// Whether an epoch of observations in that interval is left out as too dense.
+// Whether an epoch of observations in that interval is left out as too dense: the first of each half minute stays,
+// whatever second it falls on.
 bool zu_dicht(std::int64_t sekunde, double intervall)
 {
     const bool im_takt = intervall > 0 && intervall < NETZTAKT && std::abs(std::remainder(NETZTAKT, intervall)) < 1e-3;
-    return im_takt && sekunde % static_cast<std::int64_t>(NETZTAKT) != 0;
+    return im_takt && static_cast<double>(sekunde % static_cast<std::int64_t>(NETZTAKT)) >= intervall;
 }
 
 // The running number of a satellite's arc at one station.

@@ -114,19 +114,21 @@ TEST(Wahrheit, netz_fuehrt_durch_die_ionosphaere_und_weist_falsche_stationen_ab)
         bool abgelehnt, netz;
         double lage_mm;
         std::string stationen = "0590,0591,0593";
-        double takt = 30;  // of the nearest station; the others' corrections are carried over between their epochs
+        double takt = 30;    // of the nearest station; the others' corrections are carried over between their epochs
+        double versatz = 0;  // seconds by which all stations lie beside the full minute, every 15 then
     };
     for (const Fall& f : {Fall{"gut", 0, 0, false, true, 5}, Fall{"hohe Antenne", 0, 1.3, false, true, 5},
                           Fall{"Ort", 0.17, 0, true, true, 25}, Fall{"grober Ort", 25, 0, true, true, 25},
                           Fall{"keine andere", 0.17, 0, true, false, 60, "0590,0591"},
-                          Fall{"dichte Daten", 0, 0, false, true, 5, "0590,0591,0593", 5}}) {
+                          Fall{"dichte Daten", 0, 0, false, true, 5, "0590,0591,0593", 5},
+                          Fall{"neben der Minute", 0, 0, false, true, 6, "0590,0591,0593", 15, 7}}) {
         SCOPED_TRACE(f.name);
         simulator::Szenario falsch = s;
-        for (simulator::Punkt& p : falsch.punkte)
-            if (p.pkz == "0590")
-                p.takt = f.takt;
-            else if (p.pkz == "0591")
-                p.naeherung = {0, f.daneben, 0}, p.antennenhoehe = f.antenne;
+        for (simulator::Punkt& p : falsch.punkte) {
+            p.von += f.versatz;
+            if (p.pkz == "0590" || f.versatz > 0) p.takt = f.takt;
+            if (p.pkz == "0591") p.naeherung = {0, f.daneben, 0}, p.antennenhoehe = f.antenne;
+        }
         const Pruefordner p;
         schreiben(p, falsch);
         const Lauf lauf = p.wav2({datei, f.stationen, "+A001.ATX"});

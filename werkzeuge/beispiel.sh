@@ -5,7 +5,7 @@
 set -euo pipefail
 
 if (($# == 3)); then
-    programme=$1 netz=$2 beispiel=$3
+    programme=$(cd "$1" && pwd -P) netz=$(cd "$2" && pwd -P) beispiel=$3
 else
     programme=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
     netz=$programme/../../share/jorvplus/beispiel

@@ -18,6 +18,16 @@ endif()
 
 # Programs that call each other by name lie in one folder.
 set(JORV_PROGRAMME ${CMAKE_BINARY_DIR}/programme)
+if(WIN32 AND CMAKE_CROSSCOMPILING)
+  set(JORV_WURZEL Z:)  # the drive under which Wine shows the root of this host
+endif()
+
+# Shared as Debian packs it; for Windows static, so that a program is one file.
+if(WIN32)
+  find_package(GeographicLib REQUIRED COMPONENTS STATIC)
+else()
+  find_package(GeographicLib REQUIRED COMPONENTS SHARED)
+endif()
 
 add_library(jv_regeln INTERFACE)
 target_include_directories(jv_regeln INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -68,7 +78,8 @@ function(jv_programm name)
   endif()
 endfunction()
 
-# jv_test(test_daten QUELLEN test_a.cpp ETAGEN jv_daten): one test program a folder; every TEST is a ctest of its own.
+# jv_test(test_daten QUELLEN test_a.cpp ETAGEN jv_daten): one test program a folder; every TEST is a ctest of its own,
+# under an emulator, which takes long to start, every program.
 # Tests whose suite name begins with Lang_ run only in the long run (label lang).
 function(jv_test name)
   cmake_parse_arguments(A "" "" "QUELLEN;ETAGEN" ${ARGN})
@@ -77,9 +88,16 @@ function(jv_test name)
   add_executable(${name} ${A_QUELLEN})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE jv_regeln ${A_ETAGEN} GTest::gtest GTest::gmock GTest::gtest_main)
-  target_compile_definitions(${name} PRIVATE
-    JORV_PROGRAMME="${JORV_PROGRAMME}" JORV_QUELLEN="${CMAKE_SOURCE_DIR}" JORV_DATEN="${CMAKE_SOURCE_DIR}/../shared/daten")
+  target_compile_definitions(${name} PRIVATE JORV_PROGRAMME="${JORV_WURZEL}${JORV_PROGRAMME}"
+    JORV_QUELLEN="${JORV_WURZEL}${CMAKE_SOURCE_DIR}" JORV_DATEN="${JORV_WURZEL}${CMAKE_SOURCE_DIR}/../shared/daten")
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  if(CMAKE_CROSSCOMPILING)
+    add_test(NAME ${name} COMMAND ${name} --gtest_filter=-Lang_*)
+    add_test(NAME ${name}.lang COMMAND ${name} --gtest_filter=Lang_*)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+    set_tests_properties(${name}.lang PROPERTIES LABELS lang TIMEOUT 1800)
+    return()
+  endif()
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_FILTER -Lang_* PROPERTIES TIMEOUT 120)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_FILTER Lang_* TEST_SUFFIX .lang PROPERTIES LABELS lang TIMEOUT 1800)
 endfunction()

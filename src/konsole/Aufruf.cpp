@@ -137,8 +137,11 @@ std::optional<std::string> pfad_aus_wort(const Laufwerke& laufwerke, std::string
         return dos;
     }
     std::error_code fehler;
-    fs::path host{std::string(utf8)};
-    if (!fs::exists(host, fehler)) host = ersetzt(std::string(utf8), '\\', '/');
+    const auto als_pfad = [](const std::string& wort) {
+        return fs::path(reinterpret_cast<const char8_t*>(wort.c_str()));
+    };
+    fs::path host = als_pfad(std::string(utf8));
+    if (!fs::exists(host, fehler)) host = als_pfad(ersetzt(std::string(utf8), '\\', '/'));
     host = fs::absolute(host, fehler).lexically_normal();
     if (!host.has_filename()) host = host.parent_path();
     return laufwerke.dos(host);

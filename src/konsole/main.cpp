@@ -6,8 +6,12 @@
 
 #include "konsole/programm.h"
 
+#include "plattform/umgebung.h"
+
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
@@ -26,6 +30,26 @@ bool fehlerausgabe_ist_terminal()
 #endif
 }
 
+// The streams carry UTF-8 and the bytes of files; a console of Windows must be told, and it outlives this program.
+#ifdef _WIN32
+class Stroeme {
+public:
+    Stroeme()
+    {
+        for (const int strom : {1, 2}) _setmode(strom, _O_BINARY);
+        SetConsoleOutputCP(CP_UTF8);
+    }
+    Stroeme(const Stroeme&) = delete;
+    Stroeme& operator=(const Stroeme&) = delete;
+    ~Stroeme() { SetConsoleOutputCP(m_vorher); }
+
+private:
+    UINT m_vorher = GetConsoleOutputCP();
+};
+#else
+struct Stroeme {};
+#endif
+
 }  // namespace
 
 int main(int anzahl, char** werte)
@@ -35,7 +59,8 @@ int main(int anzahl, char** werte)
         abbruch_verlangt = 1;
         std::signal(SIGINT, SIG_DFL);
     });
-    const std::vector<std::string> worte(werte + (anzahl > 0 ? 1 : 0), werte + anzahl);
+    [[maybe_unused]] const Stroeme stroeme;
+    const std::vector<std::string> worte = jorv::programmworte(anzahl, werte);
     const int status = jorv::programm(
         {std::cout, std::cerr, fehlerausgabe_ist_terminal(), [] { return abbruch_verlangt != 0; }}, worte);
     // Output that didn't arrive, on a full disk, is a failure too.

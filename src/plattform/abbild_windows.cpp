@@ -9,8 +9,9 @@ namespace jorv {
 Abbild::Abbild(const std::filesystem::path& host_pfad, std::error_code& fehler)
 {
     fehler.clear();
-    const HANDLE datei = CreateFileW(host_pfad.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
-                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE datei =
+        CreateFileW(host_pfad.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     LARGE_INTEGER laenge{};
     if (datei == INVALID_HANDLE_VALUE || !GetFileSizeEx(datei, &laenge)) {
         fehler.assign(static_cast<int>(GetLastError()), std::system_category());

@@ -2,24 +2,12 @@
 
 #include <windows.h>
 
+#include "plattform/breit_windows.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 #include "plattform/umgebung.h"
 
 namespace jorv {
-
-namespace {
-
-std::wstring breit(std::string_view utf8)
-{
-    const int laenge = static_cast<int>(utf8.size());
-    std::wstring text(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, nullptr, 0)),
-                      L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), laenge, text.data(), static_cast<int>(text.size()));
-    return text;
-}
-
-}  // namespace
 
 Fensterstart batch_start(const Dateisystem& dateien, std::string_view batchdatei)
 {
@@ -51,8 +39,8 @@ std::optional<Fensterstart> editor_start(const Dateisystem& dateien, std::string
 Gestartet fenster_starten(const Fensterstart& start, Fensterausgabe ausgabe, const std::filesystem::path&)
 {
     if (start.programm.empty()) return {.fehler = std::make_error_code(std::errc::no_such_file_or_directory)};
-    std::wstring zeile = L"\"" + start.programm.wstring() + L"\"";
-    for (const auto& wort : start.argumente) zeile += L" \"" + breit(wort) + L"\"";
+    std::wstring zeile = programmwort(start.programm.wstring());
+    for (const auto& wort : start.argumente) zeile += L" " + programmwort(breit(wort));
     const bool fenster = ausgabe != Fensterausgabe::fehlerausgabe;
     STARTUPINFOW auskunft{};
     auskunft.cb = sizeof auskunft;

@@ -1,6 +1,7 @@
 // Drives and shares: turns the DOS paths of the inside into paths of the host and back.
 // Linux: drive Z: is the root directory, further drives and shares stand in a table; each name is found without regard
-// to case (an existing entry wins, a new file takes the case asked for). Windows: the turn is the identity.
+// to case (an existing entry wins, a new file takes the case asked for). Windows: the turn is the identity, but for
+// drives that a test adds.
 #pragma once
 
 #include <filesystem>
@@ -54,8 +55,8 @@ private:
     struct Zuordnung {
         std::string dos;  // lower case, no "\" at the end
         std::filesystem::path host;
-        std::string name;      // as it is told
-        bool wurzel = true;    // a drive or a share, not a folder on one
+        std::string name;    // as it is told
+        bool wurzel = true;  // a drive or a share, not a folder on one
     };
     const Zuordnung* laengste(std::string_view dos_pfad) const;
     std::vector<Zuordnung> m_tabelle;

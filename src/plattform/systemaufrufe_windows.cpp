@@ -6,19 +6,14 @@
 #include <cerrno>
 #include <string>
 
+#include "plattform/breit_windows.h"
 #include "plattform/systemaufrufe.h"
 
 namespace jorv {
 
 namespace {
 
-std::wstring breit(const char* utf8)
-{
-    const int n = MultiByteToWideChar(CP_UTF8, 0, utf8, -1, nullptr, 0);
-    std::wstring text(static_cast<std::size_t>(n > 0 ? n - 1 : 0), L'\0');
-    if (n > 1) MultiByteToWideChar(CP_UTF8, 0, utf8, -1, text.data(), n);
-    return text;
-}
+constexpr std::size_t hoechstens = 1u << 24;  // bytes of one call; the system takes an int
 
 int oeffnen(const char* pfad, int art, unsigned)
 {
@@ -26,12 +21,11 @@ int oeffnen(const char* pfad, int art, unsigned)
 }
 long lesen(int nummer, void* bytes, std::size_t anzahl)
 {
-    return _read(nummer, bytes, static_cast<unsigned>(anzahl));
+    return _read(nummer, bytes, static_cast<unsigned>(anzahl < hoechstens ? anzahl : hoechstens));
 }
 long schreiben(int nummer, const void* bytes, std::size_t anzahl)
 {
-    constexpr std::size_t stueck = 1u << 24;
-    return _write(nummer, bytes, static_cast<unsigned>(anzahl < stueck ? anzahl : stueck));
+    return _write(nummer, bytes, static_cast<unsigned>(anzahl < hoechstens ? anzahl : hoechstens));
 }
 int umbenennen(const char* alt, const char* neu)
 {

@@ -4,8 +4,16 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace jorv {
+
+/// The words behind the program's name, from what `main` got, as UTF-8. Windows: from the command line itself, since
+/// what `main` gets there has gone through the code page.
+std::vector<std::string> programmworte(int anzahl, const char* const* werte);
+
+/// The folder that an environment variable names; empty when it isn't set.
+std::filesystem::path umgebungsordner(const char* name);
 
 /// The number of this process, and whether a process of that number still runs.
 long prozess_kennung();

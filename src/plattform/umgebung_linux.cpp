@@ -22,6 +22,16 @@ std::string umgebung(const char* name)
 
 }  // namespace
 
+std::vector<std::string> programmworte(int anzahl, const char* const* werte)
+{
+    return {werte + (anzahl > 0 ? 1 : 0), werte + anzahl};
+}
+
+fs::path umgebungsordner(const char* name)
+{
+    return umgebung(name);
+}
+
 long prozess_kennung()
 {
     return ::getpid();

@@ -1,15 +1,33 @@
 #include "plattform/umgebung.h"
 
-#include <shlobj.h>
 #include <windows.h>
 
-#include <string_view>
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <cstdlib>
 
 #include "plattform/breit_windows.h"
 
 namespace jorv {
 
 namespace fs = std::filesystem;
+
+std::vector<std::string> programmworte(int, const char* const*)
+{
+    int anzahl = 0;
+    wchar_t** const werte = CommandLineToArgvW(GetCommandLineW(), &anzahl);
+    std::vector<std::string> worte;
+    for (int i = 1; i < anzahl && werte; ++i) worte.push_back(schmal(werte[i]));
+    LocalFree(werte);
+    return worte;
+}
+
+fs::path umgebungsordner(const char* name)
+{
+    const wchar_t* wert = _wgetenv(breit(name).c_str());
+    return wert ? fs::path(wert) : fs::path();
+}
 
 long prozess_kennung()
 {
@@ -19,7 +37,7 @@ long prozess_kennung()
 bool prozess_lebt(long kennung)
 {
     const HANDLE prozess = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(kennung));
-    if (!prozess) return false;
+    if (!prozess) return GetLastError() == ERROR_ACCESS_DENIED;  // another user's
     const bool lebt = WaitForSingleObject(prozess, 0) == WAIT_TIMEOUT;
     CloseHandle(prozess);
     return lebt;
@@ -52,7 +70,8 @@ fs::path programm_finden(const std::string& name)
     std::error_code fehler;
     if (fs::exists(neben, fehler)) return neben;
     wchar_t puffer[32768];
-    const DWORD n = SearchPathW(nullptr, breit(name).c_str(), L".exe", 32768, puffer, nullptr);
+    // The search path alone: the current directory is a project, and what lies there is data.
+    const DWORD n = SearchPathW(umgebungsordner("PATH").c_str(), breit(name).c_str(), L".exe", 32768, puffer, nullptr);
     return n > 0 ? fs::path(std::wstring(puffer, n)) : fs::path{};
 }
 

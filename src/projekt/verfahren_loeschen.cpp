@@ -1,6 +1,5 @@
 #include "projekt/verfahren_loeschen.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "modell/Gemeinsam.h"
@@ -30,18 +29,16 @@ constexpr auto frage_mt =
     u8"Außerdem werden die Verzeichnisse und Daten des Verfahrens gelöscht!\n"
     u8"Funktion jetzt ausführen?"_w;
 
-fs::path umgebungsordner(const char* name)
-{
-    const char* wert = std::getenv(name);
-    return wert ? fs::path(wert) : fs::path();
-}
-
 // `innen` is `aussen` itself or lies below it.
 bool liegt_in(const fs::path& innen, const fs::path& aussen)
 {
     std::error_code fehler;
-    const fs::path rest = fs::weakly_canonical(innen, fehler).lexically_relative(fs::weakly_canonical(aussen, fehler));
-    return !rest.empty() && *rest.begin() != "..";
+    // What the system takes for the same folder counts, however it is written.
+    for (fs::path ort = fs::weakly_canonical(innen, fehler); !ort.empty(); ort = ort.parent_path()) {
+        if (fs::equivalent(ort, aussen, fehler)) return true;
+        if (ort == ort.parent_path()) break;
+    }
+    return false;
 }
 
 // A project's own directory, and nothing that the user keeps other things in.

@@ -4,7 +4,7 @@
 #include <malloc.h>
 #endif
 
-#include <cstdio>
+#include <string>
 
 #include "plattform/text.h"
 #include "plattform/umgebung.h"
@@ -29,33 +29,25 @@ void speicher_behalten()
 std::optional<Worte> worte(int anzahl, const char* const* argumente)
 {
     Worte liste;
-    for (int i = 1; i < anzahl; ++i) {
-#ifdef _WIN32
-        liste.emplace_back(argumente[i]);  // the system hands them over in its own 8-bit code page
-#else
-        auto wort = text_aus_utf8(argumente[i]);
+    for (const std::string& utf8 : programmworte(anzahl, argumente)) {
+        auto wort = text_aus_utf8(utf8);
         if (!wort) return {};
         liste.push_back(std::move(*wort));
-#endif
     }
     return liste;
 }
 
 std::filesystem::path loeserprogramm()
 {
-#ifdef _WIN32
-    return programm_finden("rnx2rtkp.exe");
-#else
     return programm_finden("rnx2rtkp");
-#endif
 }
 
-void ausgeben(std::string_view bytes)
+void ausgeben(std::string_view bytes, std::FILE* wohin)
 {
 #ifdef _WIN32
-    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(wohin), _O_BINARY);
 #endif
-    std::fwrite(bytes.data(), 1, bytes.size(), stdout);
+    std::fwrite(bytes.data(), 1, bytes.size(), wohin);
 }
 
 }  // namespace jorv::suite

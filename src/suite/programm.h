@@ -1,6 +1,7 @@
 #pragma once
 // What the mains of the suite share: the words of the command line in Windows-1252 and the output as it stands.
 
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string_view>
@@ -16,8 +17,8 @@ void speicher_behalten();
 /// The words behind the program's name; nothing when one can't be held in Windows-1252.
 std::optional<Worte> worte(int anzahl, const char* const* argumente);
 
-/// Bytes to standard output without any change of line ends.
-void ausgeben(std::string_view bytes);
+/// Bytes to standard output, or to standard error, without any change of line ends.
+void ausgeben(std::string_view bytes, std::FILE* wohin = stdout);
 
 /// The solver rnx2rtkp beside our own programs or on the search path; empty when there is none.
 std::filesystem::path loeserprogramm();

@@ -1,8 +1,6 @@
 // The life of thirty projects as a user lives it: made, filled, opened, changed, taken into a second settings folder,
 // deleted. After each step an independent reader looks at the files on the disk.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
@@ -16,6 +14,11 @@
 #include "projekt/projektdatei_schreiben.h"
 #include "projekt/verfahren.h"
 #include "projekt/verfahren_loeschen.h"
+
+#ifndef _WIN32
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 namespace jorv {
 
@@ -170,6 +173,8 @@ TEST(Lebenslauf, DreissigVerfahrenInZweiEinstellungsordnern)
     EXPECT_EQ(a.einstellungen()["VERFAHREN-Name"].contains("002"), false);
 }
 
+// By processes of their own.
+#ifndef _WIN32
 namespace {
 
 // At one call of the system the program is killed, or the call fails that once.
@@ -308,5 +313,6 @@ TEST(Lebenslauf, TodUndFehlschlagInJedemAugenblickLassenEinVerfahrenDasAufgeht)
             EXPECT_GT(n, 10) << handlung.was;
         }
 }
+#endif
 
 }  // namespace jorv

@@ -1,13 +1,13 @@
 // A project with rovers that are ready to be computed, for the tests of batch, run and reports.
 #pragma once
 
-#include <cstdlib>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 
 #include "hilfen/Bruch.h"
 #include "hilfen/Projekt.h"
+#include "hilfen/Umgebung.h"
 #include "modell/Baum.h"
 #include "plattform/pfad.h"
 
@@ -105,13 +105,8 @@ struct Beispiel : Pruefstand {
 
 /// The programs on the search path: the suite, which the dates come from, and the interpreter.
 struct Suite_im_Pfad {
-    explicit Suite_im_Pfad(Global& g)
-    {
-        g.EXE_Verzeichnis = g.Programmverzeichnis;
-        ::setenv("PATH", (JORV_PROGRAMME ":" + alt).c_str(), 1);
-    }
-    ~Suite_im_Pfad() { ::setenv("PATH", alt.c_str(), 1); }
-    std::string alt = std::getenv("PATH");
+    explicit Suite_im_Pfad(Global& g) { g.EXE_Verzeichnis = g.Programmverzeichnis; }
+    Umgebungswert pfad{"PATH", suchpfad_hinter(JORV_PROGRAMME)};
 };
 
 inline std::string probe(const std::string& name)

@@ -145,12 +145,14 @@ TEST(BasisMitSuite, was_in_einem_fenster_liefe_laeuft_auf_der_konsole_zu_ende)
     hilfen::schreiben(platz.host("linie/HB001.DAT"), "x");
     EXPECT_NE(platz.jorv({"zeichnen", "1"}).err.find("2 Datei nicht gefunden beim Start von HOLBEK"),
               std::string::npos);
+#ifndef _WIN32  // where a script isn't a program of that name
     hilfen::schreiben(platz.host("programme/holbek"), "#!/bin/sh\necho \"$PWD $1\"\nsleep 0.3\necho fertig\n");
     fs::permissions(platz.host("programme/holbek"), fs::perms::owner_all);
     const auto lauf = platz.jorv({"zeichnen", "1"});
     EXPECT_EQ(lauf.status, 0);
     EXPECT_EQ(lauf.err, platz.host("").parent_path().string() + " JorvPlus.INI\nfertig\n");
     EXPECT_NE(lesen(platz.host("JorvPlus.INI")).find("[HOLBEK]\r\nIcon="), std::string::npos);
+#endif
     EXPECT_EQ(platz.jorv({"mitteln", "1"}).status, 1);
 }
 

@@ -100,15 +100,13 @@ TEST(LaufMitSuite, ohne_virtuelle_station_laesst_der_batch_den_loeser_aus)
 TEST(LaufMitSuite, ein_batch_rechnet_das_ganze_verfahren)
 {
     const Netz netz("S");
-    const std::string alter_pfad = std::getenv("PATH");
-    ::setenv("PATH", (netz.host("programme").string() + ":" + alter_pfad).c_str(), 1);
+    const Umgebungswert pfad("PATH", suchpfad_hinter(netz.host("programme")));
     Pruefschirm schirm;
     const Festuhr uhr({2016, 12, 1, 12, 0, 0});
     Global g(schirm, uhr, Dateisystem());
     ASSERT_EQ(start(g, {Laufwerke().dos(netz.host("JorvPlus.INI")).value(), {}}), Fehler::keiner);
     ASSERT_EQ(Verfahren_oeffnen(g, "Quelle"), Fehler::keiner);
     EXPECT_EQ(m_wasoft_run(g), Fehler::keiner);
-    ::setenv("PATH", alter_pfad.c_str(), 1);
     EXPECT_TRUE(schirm.gezeigt.empty()) << schirm.einzige();
     const fs::path projekt = netz.host("quelle");
     const std::string punkte = lesen(projekt / "001.UTM");

@@ -272,8 +272,9 @@ TEST(PunktInfo, UnlesbareDateien)
     }
     // The kernel's own files can be opened but not mapped.
     const fs::path kernel = "/sys/kernel/notes";
-    if (!fs::exists(kernel)) GTEST_SKIP() << "no " << kernel << " on this machine: the read failure stays untested";
-    fs::create_symlink(kernel, p.pfad(rover));
+    std::error_code fehler;
+    if (fs::exists(kernel)) fs::create_symlink(kernel, p.pfad(rover), fehler);
+    if (!fs::exists(p.pfad(rover))) GTEST_SKIP() << "no " << kernel << " to link to: the read failure stays untested";
     p.schirm.gezeigt.clear();
     EXPECT_TRUE(ist_fehler(punkt_info_lesen(p.g, rover)));
     EXPECT_EQ(p.schirm.einzige(),

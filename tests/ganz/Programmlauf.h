@@ -1,13 +1,17 @@
 // Runs the built programs as processes, as a script does.
 #pragma once
 
-#include <sys/wait.h>
-
 #include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "hilfen/Projekt.h"
+
+#ifdef _WIN32
+#include "plattform/breit_windows.h"
+#else
+#include <sys/wait.h>
+#endif
 
 namespace jorv::hilfen {
 
@@ -25,11 +29,11 @@ public:
         // Programs only: a catalogue there would be written through its link.
         for (const auto& eintrag : fs::directory_iterator(JORV_PROGRAMME))
             if ((eintrag.status().permissions() & fs::perms::owner_exec) != fs::perms::none)
-                fs::create_symlink(eintrag.path(), host("programme") / eintrag.path().filename());
+                programm_zeigen(eintrag.path(), host("programme") / eintrag.path().filename());
         schreiben(host("JorvPlus.INI"), "[GRUNDEINSTELLUNGEN]\r\nEXE-Verzeichnis=" + m_ordner.dos() +
                                             "\\programme\r\n" + std::string(zeilen));
     }
-    fs::path host(std::string_view name) const { return m_ordner.host() / std::string(name); }
+    fs::path host(std::string_view name) const { return m_ordner.host() / p8(name); }
 
     /// One command line of `jorv`, run in this folder.
     Programmlauf jorv(const std::vector<std::string>& worte) const
@@ -40,22 +44,67 @@ public:
     }
     Programmlauf programm(const std::vector<std::string>& worte) const
     {
-        std::string zeile = "cd " + maskiert(m_ordner.host().string()) + " && " +
-                            maskiert((fs::path(JORV_PROGRAMME) / worte[0]).string());
-        for (std::size_t i = 1; i < worte.size(); ++i) zeile += " " + maskiert(worte[i]);
         const fs::path aus = m_ordner.wurzel() / "aus", err = m_ordner.wurzel() / "err";
-        zeile += " >" + maskiert(aus.string()) + " 2>" + maskiert(err.string());
-        const int ende = std::system(zeile.c_str());
-        return {WIFEXITED(ende) ? WEXITSTATUS(ende) : -1, lesen(aus), lesen(err)};
+        const int status = ausfuehren(worte, aus, err);
+        return {status, lesen(aus), lesen(err)};
     }
 
 private:
+#ifdef _WIN32
+    static void programm_zeigen(const fs::path& programm, const fs::path& ort)
+    {
+        std::error_code fehler;
+        fs::create_hard_link(programm, ort, fehler);
+        if (fehler) fs::copy_file(programm, ort);
+    }
+    static HANDLE strom(const fs::path& datei)
+    {
+        SECURITY_ATTRIBUTES erbe{sizeof erbe, nullptr, TRUE};
+        return CreateFileW(datei.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &erbe, CREATE_ALWAYS, 0, nullptr);
+    }
+    int ausfuehren(const std::vector<std::string>& worte, const fs::path& aus, const fs::path& err) const
+    {
+        std::wstring zeile = programmwort((fs::path(JORV_PROGRAMME) / (worte[0] + ".exe")).wstring());
+        for (std::size_t i = 1; i < worte.size(); ++i) zeile += L" " + programmwort(breit(worte[i]));
+        STARTUPINFOW auskunft{};
+        auskunft.cb = sizeof auskunft;
+        auskunft.dwFlags = STARTF_USESTDHANDLES;
+        auskunft.hStdOutput = strom(aus);
+        auskunft.hStdError = strom(err);
+        PROCESS_INFORMATION kind{};
+        DWORD status = static_cast<DWORD>(-1);
+        if (CreateProcessW(nullptr, zeile.data(), nullptr, nullptr, TRUE, 0, nullptr, m_ordner.host().c_str(),
+                           &auskunft, &kind)) {
+            WaitForSingleObject(kind.hProcess, INFINITE);
+            GetExitCodeProcess(kind.hProcess, &status);
+            CloseHandle(kind.hThread);
+            CloseHandle(kind.hProcess);
+        }
+        CloseHandle(auskunft.hStdOutput);
+        CloseHandle(auskunft.hStdError);
+        return static_cast<int>(status);
+    }
+#else
+    static void programm_zeigen(const fs::path& programm, const fs::path& ort)
+    {
+        fs::create_symlink(programm, ort);
+    }
+    int ausfuehren(const std::vector<std::string>& worte, const fs::path& aus, const fs::path& err) const
+    {
+        std::string zeile = "cd " + maskiert(m_ordner.host().string()) + " && " +
+                            maskiert((fs::path(JORV_PROGRAMME) / worte[0]).string());
+        for (std::size_t i = 1; i < worte.size(); ++i) zeile += " " + maskiert(worte[i]);
+        zeile += " >" + maskiert(aus.string()) + " 2>" + maskiert(err.string());
+        const int ende = std::system(zeile.c_str());
+        return WIFEXITED(ende) ? WEXITSTATUS(ende) : -1;
+    }
     static std::string maskiert(const std::string& wort)
     {
         std::string text = "'";
         for (const char z : wort) text += z == '\'' ? std::string("'\\''") : std::string(1, z);
         return text + "'";
     }
+#endif
 
     Arbeitsordner m_ordner;
 };

@@ -72,10 +72,12 @@ TEST(Ganz_Beispiel, EinRoverVonDenDateienBisZurKoordinate)
     const double rechts = ergebnis["Ergebnisse"][0]["Rechtswert"];
     EXPECT_THAT(platz.gut({"export", "1", "--format", "csv"}).aus,
                 HasSubstr("ROVER,5504,55041670.16o,FixedL1," + fest(rechts, 4)));
+#ifndef _WIN32  // where a script isn't a program of that name
     // The program of the averaging finds the results of all rovers and its task.
     hilfen::schreiben(platz.host("programme/runa"), "#!/bin/sh\ngrep -c FixedL1 001.UTM\ngrep -a Titel 001.INI\n");
     fs::permissions(platz.host("programme/runa"), fs::perms::owner_all);
     EXPECT_THAT(platz.gut({"mitteln", "1"}).err, HasSubstr("1\nTitel=Verfahren -->Waldweg<--(001)  MITTELUNG"));
+#endif
     // What is computed isn't computed again.
     EXPECT_THAT(platz.jorv({"auswerten", "1"}).err, HasSubstr("INFO "));
 }

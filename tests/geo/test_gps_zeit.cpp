@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 #include "hilfen/Projekt.h"
+#include "hilfen/Umgebung.h"
 
 namespace jorv {
 
@@ -14,19 +13,31 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Stands in for the command interpreter: leaves the given bytes as the answer of every batch, or nothing at all.
+// What answers in the place of WATIME, once as a script for the interpreter that Linux has, once as a batch file.
+struct Ersatz {
+    const char* skript;
+    const char* batch;
+};
+
+// Stands in front on the search path.
 class Antwortgeber {
 public:
-    explicit Antwortgeber(const std::string& befehl)
+    explicit Antwortgeber(const Ersatz& ersatz)
     {
+#ifdef _WIN32
+        hilfen::schreiben(m_ordner.host() / "WATIME.bat", std::string("@echo off\r\n") + ersatz.batch + "\r\n");
+        m_pfad.setzen(hilfen::suchpfad_hinter(m_ordner.host()));
+#else
         const fs::path skript = m_ordner.host() / "jorv-dos";
-        hilfen::schreiben(skript, "#!/bin/sh\n" + befehl + "\n");
+        hilfen::schreiben(skript, std::string("#!/bin/sh\n") + ersatz.skript + "\n");
         fs::permissions(skript, fs::perms::owner_all);
-        ::setenv("PATH", (m_ordner.host().string() + ":/usr/bin:/bin").c_str(), 1);
+        m_pfad.setzen(m_ordner.host().string() + ":/usr/bin:/bin");
+#endif
     }
 
 private:
     hilfen::Arbeitsordner m_ordner;
+    hilfen::Umgebungswert m_pfad{"PATH", ""};
 };
 
 }  // namespace
@@ -38,8 +49,8 @@ TEST(GpsZeit, AufrufdateiFuehrtInDenOrdnerUndRuftWATIME)
     std::string zeit;
     EXPECT_TRUE(ist_fehler(gps_zeit_holen(p.g, 2016, 12, 1, 12, 0, 0, zeit)));
     const std::string vdir = p.g.Arbeitsverzeichnis;
-    EXPECT_EQ(hilfen::lesen(p.pfad("Jorv.BAT")), "@echo off\r\npath %path%;C:\\gibt\\es nicht\r\nZ:\r\n" +
-                                                     dos_text("cd " + vdir.substr(2)) +
+    EXPECT_EQ(hilfen::lesen(p.pfad("Jorv.BAT")), "@echo off\r\npath %path%;C:\\gibt\\es nicht\r\n" + vdir.substr(0, 2) +
+                                                     "\r\n" + dos_text("cd " + vdir.substr(2)) +
                                                      "\r\nWATIME 2016 12 1 12 0 0 > Jorv.tmp\r\n");
     Zeitpunkt datum;
     EXPECT_TRUE(ist_fehler(gps_datum_holen(p.g, 1925, 4, datum)));
@@ -57,18 +68,24 @@ TEST(GpsZeit, JederFehlschlagHatSeineMeldung)
                                           "\\Jorv.BAT\nder Batchdatei konnte nicht angelegt/überschrieben werden!");
     }
     struct Fall {
-        std::string befehl, meldung;
+        Ersatz ersatz;  // no batch: the system's interpreter leaves the file whatever happens
+        std::string meldung;
         bool datum;
     };
     const Fall faelle[] = {
-        {"true", "Die Datumsdatei:\n%\nkonnte nicht geöffnet werden!", false},
-        {"mkdir Jorv.tmp", "Die Datumsdatei:\n%\nkonnte nicht richtig gelesen werden!", false},
-        {": > Jorv.tmp", "Die Datumsdatei:\n%\nhat keine Informationen!", false},
-        {"echo 01.12.2016 12:00:00 > Jorv.tmp", "(GPS-Zeit) fehlt in der Datums-Datei:\n%\n\n", false},
-        {"echo kein Datum > Jorv.tmp", "GPS-Datum fehlt in der Datums-Datei:\n%\n\n", true},
+        {{"true", nullptr}, "Die Datumsdatei:\n%\nkonnte nicht geöffnet werden!", false},
+        {{"mkdir Jorv.tmp", nullptr}, "Die Datumsdatei:\n%\nkonnte nicht richtig gelesen werden!", false},
+        {{": > Jorv.tmp", "rem"}, "Die Datumsdatei:\n%\nhat keine Informationen!", false},
+        {{"echo 01.12.2016 12:00:00 > Jorv.tmp", "echo 01.12.2016 12:00:00"},
+         "(GPS-Zeit) fehlt in der Datums-Datei:\n%\n\n",
+         false},
+        {{"echo kein Datum > Jorv.tmp", "echo kein Datum"}, "GPS-Datum fehlt in der Datums-Datei:\n%\n\n", true},
     };
     for (const auto& fall : faelle) {
-        const Antwortgeber geber(fall.befehl);
+#ifdef _WIN32
+        if (!fall.ersatz.batch) continue;
+#endif
+        const Antwortgeber geber(fall.ersatz);
         Pruefstand p;
         hilfen::schreiben(p.pfad("Jorv.tmp"), "01.12.2016 12:00:00 336.50 1925/4 388800\r\n");  // of an earlier call
         std::string zeit = "unverändert";
@@ -82,7 +99,8 @@ TEST(GpsZeit, JederFehlschlagHatSeineMeldung)
 
 TEST(GpsZeit, NurDieErsteZeileZaehlt)
 {
-    const Antwortgeber geber("printf '01.12.2016 12:00:00 336.50 1925/4 388800\\r\\nmehr' > Jorv.tmp");
+    const Antwortgeber geber({"printf '01.12.2016 12:00:00 336.50 1925/4 388800\\r\\nmehr' > Jorv.tmp",
+                              "echo 01.12.2016 12:00:00 336.50 1925/4 388800\r\necho mehr"});
     Pruefstand p;
     std::string zeit;
     EXPECT_FALSE(ist_fehler(gps_zeit_holen(p.g, 2016, 12, 1, 12, 0, 0, zeit)));

@@ -17,6 +17,12 @@ namespace jorv::hilfen {
 
 namespace fs = std::filesystem;
 
+/// A name or path of a test source (UTF-8), which Windows wouldn't take for such.
+inline fs::path p8(std::string_view utf8)
+{
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
 /// A folder of its own below the system's temporary folder, removed at the end.
 class Arbeitsordner {
 public:
@@ -28,7 +34,7 @@ public:
                        ("jorv-test-" + std::to_string(prozess_kennung()) + "-" + std::to_string(i));
             if (fs::create_directory(m_wurzel, fehler)) break;
         }
-        m_ordner = m_wurzel / std::string(zusatz.empty() ? "p" : zusatz);
+        m_ordner = m_wurzel / p8(zusatz.empty() ? "p" : zusatz);
         fs::create_directories(m_ordner);
     }
     Arbeitsordner(const Arbeitsordner&) = delete;
@@ -89,7 +95,7 @@ struct Pruefstand {
         bereich.bis = "3999";
         (void)g.KOR_ANTENNEN.anfuegen(bereich);
     }
-    fs::path pfad(std::string_view name) const { return ordner.host() / std::string(name); }
+    fs::path pfad(std::string_view name) const { return ordner.host() / p8(name); }
 
     Arbeitsordner ordner;
     Pruefschirm schirm;

@@ -1,9 +1,6 @@
 #include "plattform/datei.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
@@ -11,6 +8,12 @@
 
 #include "hilfen/Projekt.h"
 #include "plattform/sperre.h"
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 namespace jorv {
 
@@ -26,7 +29,7 @@ bool sterben = false;
 bool scheitert()
 {
     if (++zaehler != scheitert_bei) return false;
-    if (sterben) ::raise(SIGKILL);
+    if (sterben) std::_Exit(1);  // nothing more is written or cleared away, as at a kill
     errno = grund_des_scheiterns;
     return true;
 }
@@ -81,6 +84,8 @@ TEST(Datei, JederEinzelneFehlschlagLaesstAltOderNeuGanz)
     }
 }
 
+// By processes of their own, a small disk and a pipe.
+#ifndef _WIN32
 TEST(Datei, JederMomentDesTodesLaesstAltOderNeuGanzUndDerRestWirdWeggeraeumt)
 {
     const Arbeitsordner ordner;
@@ -93,11 +98,11 @@ TEST(Datei, JederMomentDesTodesLaesstAltOderNeuGanzUndDerRestWirdWeggeraeumt)
         if (kind == 0) {
             fehler_bei(n);
             sterben = true;
-            ::_exit(dateien.schreiben(ordner.dos() + "\\001.INI", neu) ? 1 : 0);
+            ::_exit(dateien.schreiben(ordner.dos() + "\\001.INI", neu) ? 2 : 0);
         }
         int status = 0;
         ::waitpid(kind, &status, 0);
-        gelungen = WIFEXITED(status);
+        gelungen = WIFEXITED(status) && WEXITSTATUS(status) == 0;
         const std::string danach = hilfen::lesen(ziel);
         EXPECT_TRUE(danach == alt || danach == neu) << n;
         dateien.reste_wegraeumen(ordner.dos());
@@ -136,6 +141,7 @@ TEST(Datei, ZieleDieKeineDateiSindWerdenAbgelehntVerweiseVerfolgt)
     EXPECT_TRUE(fs::is_symlink(ordner.host() / "verweis.txt"));
     EXPECT_EQ(hilfen::lesen(ordner.host() / "ziel.txt"), neu);
 }
+#endif
 
 TEST(Datei, NamenWerdenOhneGrossUndKleinGefundenUndBehalten)
 {
@@ -165,8 +171,10 @@ TEST(Datei, LaufwerkeUndFreigabenStehenInDerTabelle)
     EXPECT_FALSE(dateien.vorhanden("\\\\srv\\anderes\\a"));
     // Cut at the NUL this would be the folder itself.
     EXPECT_FALSE(laufwerke.host(std::string_view("D:\\\0a", 5)));
+#ifndef _WIN32
     EXPECT_EQ(laufwerke.alle(), (std::vector<std::string>{"D:", "Z:", "\\\\srv\\netz"}));
     EXPECT_EQ(Laufwerke().dos("/"), "Z:\\");
+#endif
     EXPECT_FALSE(Laufwerke().dos("/tmp/\xE4\xB8\xAD"));
 }
 

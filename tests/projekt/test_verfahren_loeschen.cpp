@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "hilfen/Projekt.h"
+#include "hilfen/Umgebung.h"
 #include "projekt/Vollprojekt.h"
 #include "projekt/projektdatei_schreiben.h"
 #include "projekt/verfahren.h"
@@ -68,18 +69,18 @@ TEST(LoeschenInMT, BleibtEinVerzeichnisDasNichtNurDemVerfahrenGehoert)
 {
     struct Fall {
         const char* was;
-        void (*vorbereiten)(Pruefstand&);
+        void (*vorbereiten)(Pruefstand&, const Umgebungswert& heim);
     };
     const Fall faelle[] = {
-        {"no project file", [](Pruefstand& p) { fs::remove(p.pfad("001.INI")); }},
+        {"no project file", [](Pruefstand& p, const auto&) { fs::remove(p.pfad("001.INI")); }},
         {"the user's home below it",
-         [](Pruefstand& p) {
-             fs::create_directories(p.pfad("heim/ich"));
-             setenv("HOME", p.pfad("heim/ich").c_str(), 1);
+         [](Pruefstand& p, const Umgebungswert& heim) {
+             fs::create_directories(p.pfad("heim/Jürg"));
+             heim.setzen(p.pfad("heim/Jürg").string());
          }},
-        {"the settings file in it", [](Pruefstand& p) { p.g.Einstellungsdatei = im_Verfahren(p.g, "JorvPlus.INI"); }},
+        {"the settings file in it, written otherwise",
+         [](Pruefstand& p, const auto&) { p.g.Einstellungsdatei = gross(im_Verfahren(p.g, "JorvPlus.INI")); }},
     };
-    const std::string heim = getenv("HOME") ? getenv("HOME") : "";
     for (const auto& fall : faelle) {
         SCOPED_TRACE(fall.was);
         Pruefstand q;
@@ -87,9 +88,9 @@ TEST(LoeschenInMT, BleibtEinVerzeichnisDasNichtNurDemVerfahrenGehoert)
         schreiben(q.pfad("messung.doc"), "x");
         q.g.Land = "MT";
         q.schirm.antworten = {Antwort::ja};
-        fall.vorbereiten(q);
+        const Umgebungswert heim("HOME", "");
+        fall.vorbereiten(q, heim);
         EXPECT_EQ(m_datei_loeschen(q.g), Fehler::gesetzt);
-        setenv("HOME", heim.c_str(), 1);
         ASSERT_EQ(q.schirm.gezeigt.size(), 2u);
         EXPECT_EQ(q.schirm.texte()[1], "Das Arbeitsverzeichnis konnte nicht gelöscht werden!");
         EXPECT_TRUE(fs::exists(q.pfad("messung.doc")));

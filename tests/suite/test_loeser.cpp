@@ -23,30 +23,42 @@ TEST(Loeser, stoerungen_geben_eine_meldung_und_kein_ergebnis)
     struct Fall {
         const char* name;
         std::string skript;  // empty: no program at all
+        std::string batch;   // the same for Windows, which has no signals
         const char* meldung;
     };
     const std::vector<Fall> faelle = {
-        {"fehlt", "", "rnx2rtkp wurde nicht gefunden"},
-        {"haengt", "sleep 60", "nach 1 s abgebrochen"},
-        {"stirbt", "kill -SEGV $$", "endete mit Status 139"},
-        {"Status", "exit 3", "endete mit Status 3"},
-        {"tut nichts", "echo 'error : no nav data' >&2", "error : no nav data"},
-        {"leere Datei", ": > o.pos", "lieferte keine"},
-        {"andere Version", "echo '% program   : RTKLIB ver.2.4.2' > o.pos", "erprobt ist 2.4.3"},
-        {"nur Kopf", "echo '% program   : RTKLIB ver.2.4.3' > o.pos", "lieferte keine"},
-        {"halbe Zeile", "printf '2005/04/02 00:00:00.000  -3976219.71' > o.pos", "lieferte keine"},
-        {"keine Zahlen", "printf '2005/04/02 00:00:00.000 nan nan nan 1 7 nan nan nan nan nan nan 0 9\\n' > o.pos",
+        {"fehlt", "", "", "rnx2rtkp wurde nicht gefunden"},
+        {"haengt", "sleep 60", ":a\r\ngoto a", "nach 1 s abgebrochen"},
+#ifndef _WIN32
+        {"stirbt", "kill -SEGV $$", "", "endete mit Status 139"},
+#endif
+        {"Status", "exit 3", "exit 3", "endete mit Status 3"},
+        {"tut nichts", "echo 'error : no nav data' >&2", "echo error : no nav data>&2", "error : no nav data"},
+        {"leere Datei", ": > o.pos", "rem > o.pos", "lieferte keine"},
+        {"andere Version", "echo '% program   : RTKLIB ver.2.4.2' > o.pos",
+         "echo %% program   : RTKLIB ver.2.4.2> o.pos", "erprobt ist 2.4.3"},
+        {"nur Kopf", "echo '% program   : RTKLIB ver.2.4.3' > o.pos", "echo %% program   : RTKLIB ver.2.4.3> o.pos",
          "lieferte keine"},
-        {"eine einzige Epoche", "printf '" + ZEILE + "' > o.pos", "Keine L"},
+        {"halbe Zeile", "printf '2005/04/02 00:00:00.000  -3976219.71' > o.pos",
+         "echo 2005/04/02 00:00:00.000  -3976219.71> o.pos", "lieferte keine"},
+        {"keine Zahlen", "printf '2005/04/02 00:00:00.000 nan nan nan 1 7 nan nan nan nan nan nan 0 9\\n' > o.pos",
+         "echo 2005/04/02 00:00:00.000 nan nan nan 1 7 nan nan nan nan nan nan 0 9 > o.pos", "lieferte keine"},
+        {"eine einzige Epoche", "printf '" + ZEILE + "' > o.pos",
+         "echo " + ZEILE.substr(0, ZEILE.size() - 1) + " > o.pos", "Keine L"},
     };
     for (const Fall& f : faelle) {
         const Pruefordner p;
         p.geonet();
         Loeserumgebung umgebung{"", 1, p.temp.wurzel()};
         if (!f.skript.empty()) {
+#ifdef _WIN32
+            umgebung.programm = p.pfad("loeser.bat");
+            p.schreiben("loeser.bat", "@echo off\r\n" + f.batch + "\r\n");
+#else
             umgebung.programm = p.pfad("loeser.sh");
             p.schreiben("loeser.sh", "#!/bin/sh\n" + f.skript + "\n");
             fs::permissions(umgebung.programm, fs::perms::owner_all);
+#endif
         }
         const Lauf lauf = p.wa2({BASIS, ROVER, "+ACF001.ATX", "+TL1", "+E-NS2,CU2"}, umgebung);
         EXPECT_EQ(lauf.status, 1) << f.name;

@@ -16,6 +16,7 @@
 #include "konsole/Tabelle.h"
 #include "plattform/datei.h"
 #include "plattform/text.h"
+#include "plattform/umgebung.h"
 #include "plattform/wort.h"
 #include "plattform/zahl.h"
 
@@ -94,17 +95,18 @@ int vergleichen(const Dateisystem& dateien, const std::map<std::string, Ort>& wa
 
 }  // namespace
 
-int main(int anzahl, char** worte)
+int main(int anzahl, char** werte)
 {
-    if (anzahl != 3) {
+    const auto worte = programmworte(anzahl, werte);
+    if (worte.size() != 2) {
         std::cerr << "jorv-wahrheit LISTE VERFAHRENSORDNER\n";
         return 2;
     }
     const Dateisystem dateien(Laufwerke{});
-    const auto liste = Laufwerke{}.dos(worte[1]), ordner = Laufwerke{}.dos(worte[2]);
+    const auto liste = Laufwerke{}.dos(worte[0]), ordner = Laufwerke{}.dos(worte[1]);
     const auto text = liste ? dateien.lesen(*liste) : std::nullopt;
     if (!text || !ordner || !dateien.ist_ordner(*ordner)) {
-        std::cerr << "STOP " << worte[text ? 2 : 1] << " kann nicht gelesen werden!\n";
+        std::cerr << "STOP " << worte[text ? 1 : 0] << " kann nicht gelesen werden!\n";
         return 1;
     }
     return vergleichen(dateien, liste_lesen(*text), *ordner);

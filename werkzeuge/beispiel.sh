@@ -2,6 +2,7 @@
 # Legt aus den Dateien des Beispielnetzes ein Verfahren an, wertet es aus und vergleicht mit der Wahrheit.
 #   beispiel.sh PROGRAMME NETZ ORDNER
 # Installiert heißt es jorv-beispiel und nimmt nur den Ordner, ohne Angabe ~/jorv-beispiel.
+# Mit JORV_UNTER=wine sind es die Programme für Windows.
 set -euo pipefail
 
 if (($# == 3)); then
@@ -11,6 +12,9 @@ else
     netz=$programme/../../share/jorvplus/beispiel
     beispiel=${1:-$HOME/jorv-beispiel}
 fi
+
+unter=${JORV_UNTER:-}
+programm() { $unter "$programme/$1${unter:+.exe}" "${@:2}"; }
 
 schritt() { printf '\n== %s\n' "$*"; }
 
@@ -38,7 +42,7 @@ anlegen() {
 }
 
 rechnen() {
-    local jorv=("$programme/jorv" --einstellungen "$beispiel/JorvPlus.INI") nummer figur
+    local jorv=(programm jorv --einstellungen "$beispiel/JorvPlus.INI") nummer figur
     "${jorv[@]}" katalog machen "$beispiel/katalog.txt"
     "${jorv[@]}" grenzen machen "$beispiel/grenzen.txt"
     nummer=$("${jorv[@]}" neu Beispiel --modus E --verzeichnis "$beispiel/verfahren")
@@ -51,7 +55,7 @@ rechnen() {
     schritt "Auswerten"
     "${jorv[@]}" auswerten "$nummer" >/dev/null
     schritt "Ergebnisse und ihre Abweichung von der Wahrheit (Ost, Nord, Höhe)"
-    "$programme/jorv-wahrheit" "$beispiel/wahrheit.txt" "$beispiel/verfahren"
+    programm jorv-wahrheit "$beispiel/wahrheit.txt" "$beispiel/verfahren"
     printf '\nDas Verfahren liegt in %s. Ansehen:\n  %q --einstellungen %q zeigen %s\n' \
         "$beispiel/verfahren" "$programme/jorv" "$beispiel/JorvPlus.INI" "$nummer"
 }

@@ -81,8 +81,69 @@ bedarf_bauen() {
     loeser_bauen
 }
 
+bauen() {
+    bedarf_bauen
+    schritt "Bauen in $bau"
+    cd "$wurzel"
+    [[ -f $bau/build.ninja ]] || cmake --preset windows
+    cmake --build "$bau" -j "$kerne"
+    cp -u "$einrichtung/bin/rnx2rtkp.exe" "$bau/programme/"
+}
+
+# Ein Windows mit deutschen Zeichensätzen, das nichts vom Benutzer weiß und kein Fenster öffnet.
+wine_einrichten() {
+    local sprache=$bedarf/sprache
+    if [[ ! -d $sprache/de_DE.UTF-8 ]]; then
+        mkdir -p "$sprache"
+        localedef -i de_DE -f UTF-8 "$sprache/de_DE.UTF-8"
+    fi
+    export LOCPATH=$sprache LC_ALL=de_DE.UTF-8
+    export WINEPREFIX=$bau/wine WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe=d"
+    unset DISPLAY
+    if [[ ! -e $WINEPREFIX/system.reg ]]; then
+        schritt "Wine einrichten in $WINEPREFIX"
+        wineboot -i 2>/dev/null
+        wineserver -w
+    fi
+}
+
+# Rechnet das Beispiel mit den Programmen beider Systeme im selben Ordner und vergleicht, was sie hinterlassen.
+beispiel_vergleichen() {
+    local ort=$bau/beispiel system
+    cd "$wurzel"
+    [[ -f bau/release/build.ninja ]] || cmake --preset release >/dev/null
+    cmake --build bau/release -j "$kerne" --target jorv jorv-dos WATIME wav2 wa2 jorv-wahrheit beispielnetz
+    export JORV_JETZT=2016-12-01T12:00:00
+    for system in linux windows; do
+        rm -rf "$ort.$system"
+        if [[ $system == linux ]]; then
+            werkzeuge/beispiel.sh bau/release/programme bau/release/beispielnetz "$ort" >"$ort.$system.txt"
+        else
+            JORV_UNTER=wine werkzeuge/beispiel.sh "$bau/programme" bau/release/beispielnetz "$ort" >"$ort.$system.txt"
+        fi
+        mv "$ort" "$ort.$system"
+    done
+    schritt "Ergebnisse unter Wine"
+    sed -n '/Ergebnisse/,$p' "$ort.windows.txt"
+    schritt "Vergleich der Ordner $ort.linux und $ort.windows"
+    diff -rq "$ort.linux/verfahren" "$ort.windows/verfahren"
+}
+
 case ${1:-hilfe} in
 bedarf) bedarf_bauen ;;
+bauen) bauen ;;
+pruefen)
+    bauen
+    wine_einrichten
+    schritt "Prüfen unter Wine"
+    ctest --test-dir "$bau" --output-on-failure --no-tests=error -LE lang
+    beispiel_vergleichen
+    ;;
+beispiel)
+    bauen
+    wine_einrichten
+    beispiel_vergleichen
+    ;;
 hilfe | --help | -h) hilfe ;;
 *)
     hilfe >&2

@@ -83,6 +83,7 @@ bedarf_bauen() {
 
 bauen() {
     bedarf_bauen
+    wine_einrichten # der Simulator läuft schon beim Bauen
     schritt "Bauen in $bau"
     cd "$wurzel"
     [[ -f $bau/build.ninja ]] || cmake --preset windows
@@ -134,14 +135,12 @@ bedarf) bedarf_bauen ;;
 bauen) bauen ;;
 pruefen)
     bauen
-    wine_einrichten
     schritt "Prüfen unter Wine"
     ctest --test-dir "$bau" --output-on-failure --no-tests=error -LE lang
     beispiel_vergleichen
     ;;
 beispiel)
     bauen
-    wine_einrichten
     beispiel_vergleichen
     ;;
 hilfe | --help | -h) hilfe ;;

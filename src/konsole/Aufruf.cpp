@@ -133,7 +133,7 @@ std::optional<std::string> pfad_aus_wort(const Laufwerke& laufwerke, std::string
     if (ist_dos_pfad(*text)) {
         auto dos = ersetzt(*text, '/', '\\');
         while (dos.size() > 3 && dos.ends_with('\\')) dos.pop_back();
-        if (!laufwerke.host(dos)) return std::nullopt;
+        if (!laufwerke.host(dos) || (!ist_unc(dos) && !laufwerke.hat_laufwerk(dos))) return std::nullopt;
         return dos;
     }
     std::error_code fehler;

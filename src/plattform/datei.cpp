@@ -293,6 +293,10 @@ std::error_code Dateisystem::ordner_loeschen(std::string_view pfad) const
     const auto ort = m_laufwerke.host(pfad);
     if (!ort) return kein_laufwerk();
     std::error_code fehler;
+#ifdef _WIN32
+    for (fs::recursive_directory_iterator lauf(*ort, fehler), ende; !fehler && lauf != ende; lauf.increment(fehler))
+        fs::permissions(lauf->path(), fs::perms::owner_write, fs::perm_options::add, fehler);
+#endif
     fs::remove_all(*ort, fehler);
     return fehler;
 }

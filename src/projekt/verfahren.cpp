@@ -37,8 +37,10 @@ std::string_view verzeichnis_knapp(std::string_view verzeichnis)
 // The same for what a user has typed: a path of the host, or one without a root, becomes a DOS path.
 std::string verzeichnis_aus_eingabe(const Global& g, std::string_view eingabe)
 {
-    const auto knapp = verzeichnis_knapp(eingabe);
-    if (knapp.empty() || ist_dos_pfad(knapp)) return std::string(knapp);
+    const bool dos = ist_dos_pfad(trimmen(eingabe));
+    const std::string text = dos ? ersetzt(std::string(eingabe), '/', '\\') : std::string(eingabe);
+    const auto knapp = verzeichnis_knapp(text);
+    if (knapp.empty() || dos) return std::string(knapp);
     return g.dateien.laufwerke().dos(g.dateien.host(knapp)).value_or(std::string(knapp));
 }
 

@@ -25,7 +25,7 @@ struct Benutzer {
 
     Arbeitsordner heim;
     hilfen::Umgebungswert home{"HOME", heim.host().string()};
-    hilfen::Umgebungswert dokumente{"XDG_DOCUMENTS_DIR"}, einstellungsort{"XDG_CONFIG_HOME"};
+    hilfen::Umgebungswert dokumenteort{"XDG_DOCUMENTS_DIR"}, einstellungsort{"XDG_CONFIG_HOME"};
     hilfen::Pruefschirm schirm;
     Festuhr uhr;
     Global g;
@@ -89,7 +89,7 @@ TEST(Start, EinEditorDenDieDateienNichtNennenKoennenWirdAbgelehnt)
     Benutzer b;
     EXPECT_FALSE(ist_fehler(Editor_setzen(b.g, b.heim.host() / "kate")));
     EXPECT_EQ(b.g.Editor, b.heim.dos() + "\\kate");
-    EXPECT_TRUE(ist_fehler(Editor_setzen(b.g, "/opt/\u0416/kate")));
+    EXPECT_TRUE(ist_fehler(Editor_setzen(b.g, hilfen::p8("/opt/\u0416/kate"))));
     EXPECT_EQ(b.schirm.einzige(),
               "Das Programm:\n/opt/?/kate\nkann in JorvPlus nicht verwendet werden (Zeichen im Namen)!");
     EXPECT_EQ(b.g.Editor, b.heim.dos() + "\\kate");
@@ -154,11 +154,13 @@ TEST(Start, EineGenannteEinstellungsdateiGiltAlleinUndNamenAusFremdenSchriftenWe
     EXPECT_EQ(b.g.Editor, "Notepad.exe");
     EXPECT_TRUE(fs::exists(alt));
 
+#ifndef _WIN32  // which tells the documents folder of whoever runs the test
     Benutzer fremd;
     fremd.home.setzen((fremd.heim.host() / "\xE4\xB8\xAD").string());
     EXPECT_TRUE(ist_fehler(start(fremd.g)));
     EXPECT_NE(fremd.schirm.einzige().find("kann in JorvPlus nicht verwendet werden (Zeichen im Namen)!"),
               std::string::npos);
+#endif
 }
 
 TEST(Start, EinAbgestuerztesProgrammHinterlaesstNichts)

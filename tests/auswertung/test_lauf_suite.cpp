@@ -7,6 +7,7 @@
 #include "app/start.h"
 #include "auswertung/gesamtlauf.h"
 #include "ganz/Programmlauf.h"
+#include "hilfen/Umgebung.h"
 #include "plattform/text.h"
 #include "projekt/verfahren.h"
 #include "simulator/beispiel.h"

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 #include "geo/xyz_nach_utm.h"
 
@@ -12,7 +13,7 @@ namespace jorv {
 
 namespace {
 
-constexpr double a = 6378137.0, f = 1 / 298.257222101, e2 = f * (2 - f), grad = M_PI / 180;
+constexpr double a = 6378137.0, f = 1 / 298.257222101, e2 = f * (2 - f), grad = std::numbers::pi / 180;
 
 void geozentrisch(double breite, double laenge, double hoehe, double& X, double& Y, double& Z)
 {

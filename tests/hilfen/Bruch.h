@@ -39,15 +39,17 @@ public:
     /// The call from now on that fails, once: a bad block, a full disk, bytes that the close can't bring home.
     static inline int lesen_bei = 0, schreiben_bei = 0, schliessen_bei = 0;
     static inline bool umbenennen_luegt = false;  ///< a rename reports success and does nothing
-    static inline std::string verboten;           ///< paths that hold this can't be written or deleted
+    static inline std::string verboten;           ///< paths that hold this (with "/") can't be written or deleted
     static inline std::string loeschen_endung;    ///< files whose path ends so can't be deleted
 
 private:
     static bool jetzt(int& zaehler) { return zaehler > 0 && --zaehler == 0; }
     static int fehler(int grund) { return errno = grund, -1; }
+    // Windows separates the names of a path otherwise.
+    static std::string mit_schraegstrichen(std::string_view pfad) { return ersetzt(std::string(pfad), '\\', '/'); }
     static bool gesperrt(std::string_view pfad)
     {
-        return !verboten.empty() && pfad.find(verboten) != std::string_view::npos;
+        return !verboten.empty() && mit_schraegstrichen(pfad).find(verboten) != std::string::npos;
     }
     static int oeffnen(const char* pfad, int art, unsigned rechte)
     {
@@ -70,7 +72,7 @@ private:
     }
     static int loeschen(const char* pfad)
     {
-        const bool endung = !loeschen_endung.empty() && std::string_view(pfad).ends_with(loeschen_endung);
+        const bool endung = !loeschen_endung.empty() && mit_schraegstrichen(pfad).ends_with(loeschen_endung);
         return endung || gesperrt(pfad) ? fehler(EACCES) : Systemaufrufe::echte().loeschen(pfad);
     }
     static int umbenennen(const char* alt, const char* neu)

@@ -175,7 +175,7 @@ TEST(Datei, LaufwerkeUndFreigabenStehenInDerTabelle)
     EXPECT_EQ(laufwerke.alle(), (std::vector<std::string>{"D:", "Z:", "\\\\srv\\netz"}));
     EXPECT_EQ(Laufwerke().dos("/"), "Z:\\");
 #endif
-    EXPECT_FALSE(Laufwerke().dos("/tmp/\xE4\xB8\xAD"));
+    EXPECT_FALSE(Laufwerke().dos(hilfen::p8("/tmp/\xE4\xB8\xAD")));
 }
 
 TEST(Datei, AnhaengenKopierenLoeschen)
@@ -194,6 +194,17 @@ TEST(Datei, AnhaengenKopierenLoeschen)
     EXPECT_FALSE(dateien.loeschen(b));
     EXPECT_TRUE(dateien.loeschen(b));
     EXPECT_EQ(dateien.lesen_stufenweise(b).stufe, Dateistufe::oeffnen);
+}
+
+TEST(Datei, EinOrdnerVerschwindetMitSeinenSchreibgeschuetztenDateien)
+{
+    const Arbeitsordner ordner;
+    const fs::path datei = ordner.host() / "weg" / "darin" / "a.txt";
+    hilfen::schreiben(datei, alt);
+    fs::permissions(datei, fs::perms::owner_read);
+    EXPECT_FALSE(Dateisystem().ordner_loeschen(ordner.dos() + "\\weg"));
+    EXPECT_TRUE(fs::is_empty(ordner.host()));
+    EXPECT_FALSE(Dateisystem().ordner_loeschen(ordner.dos() + "\\weg")) << "nothing to do";
 }
 
 TEST(Datei, EineSperreSchliesstAndereAusUndVerschwindetMitIhremProgramm)

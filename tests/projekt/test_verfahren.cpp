@@ -127,7 +127,7 @@ TEST(Verzeichniswahl, LegtEinNeuesVerzeichnisAnOderSagtWarumNicht)
     schreiben(p.pfad("datei"), "x");
     EXPECT_EQ(Verzeichnis_uebernehmen(p.g, ordner, " "), ordner);
     EXPECT_EQ(Verzeichnis_uebernehmen(p.g, ordner + "\\", "neu"), ordner + "\\neu");
-    EXPECT_EQ(Verzeichnis_uebernehmen(p.g, "Z:\\", ordner.substr(3)), ordner) << "one that is there";
+    EXPECT_EQ(Verzeichnis_uebernehmen(p.g, ordner.substr(0, 3), ordner.substr(3)), ordner) << "one that is there";
     EXPECT_TRUE(fs::is_directory(p.pfad("neu")));
     EXPECT_TRUE(p.schirm.gezeigt.empty());
     for (const char* name : {"datei", "datei\\x", "a?b", "a\tb"}) {
@@ -145,8 +145,9 @@ TEST(Verzeichniswahl, BeginntWoEsDenWegNochGibt)
     for (const char* name : {"b", "A", ".versteckt"}) fs::create_directory(p.pfad(name));
     schreiben(p.pfad("datei"), "x");
     EXPECT_EQ(Verzeichnis_Anfang(p.g, ordner + "\\weg\\noch weiter"), ordner);
-    EXPECT_EQ(Verzeichnis_Anfang(p.g, "Q:\\a"), "Z:\\");
-    EXPECT_EQ(Verzeichnis_Anfang(p.g, ""), "Z:\\");
+    const std::string erstes = Laufwerke().alle().front() + "\\";
+    EXPECT_EQ(Verzeichnis_Anfang(p.g, "Q:\\a"), erstes);
+    EXPECT_EQ(Verzeichnis_Anfang(p.g, ""), erstes);
     EXPECT_EQ(Unterverzeichnisse(p.g, ordner), (std::vector<std::string>{"A", "b"}));
 }
 
@@ -267,6 +268,7 @@ TEST_F(ZweiVerfahren, FehltVerzeichnisOderDateiVerlaesstDasVerfahrenBeideListen)
     EXPECT_FALSE(einstellungen(p).hat("VERFAHREN-Name", "001"));
     EXPECT_EQ(p.g.Verfahrensname, "Zweites");  // the open one stays
 
+#ifndef _WIN32  // where nobody can take away the directory of an open project
     p.schirm.gezeigt.clear();
     fs::remove_all(p.pfad("zweites"));
     EXPECT_EQ(Verfahren_pruefen(p.g, "Zweites"), Fehler::gesetzt);
@@ -276,6 +278,7 @@ TEST_F(ZweiVerfahren, FehltVerzeichnisOderDateiVerlaesstDasVerfahrenBeideListen)
     EXPECT_EQ(p.g.RINEX_Dateien.anzahl() + p.g.Verfahren.anzahl() + p.g.Anzahl_Liste, 0);
     EXPECT_EQ(p.schirm.fenstertitel, "Jorv+, Version 1.0 vom 01.12.2016");
     EXPECT_TRUE(vier_aus(p.g));
+#endif
 }
 
 TEST_F(ZweiVerfahren, EinUnbekannterNameGibtDenHinweisAufDenImport)

@@ -46,8 +46,9 @@ struct Pruefordner {
     void schreiben(std::string_view name, std::string_view bytes) const { hilfen::schreiben(pfad(name), bytes); }
     void holen(const fs::path& quelle, std::string_view als = "") const
     {
-        fs::copy_file(quelle, als.empty() ? temp.host() / quelle.filename() : pfad(als),
-                      fs::copy_options::overwrite_existing);
+        const fs::path ziel = als.empty() ? temp.host() / quelle.filename() : pfad(als);
+        fs::copy_file(quelle, ziel, fs::copy_options::overwrite_existing);
+        fs::permissions(ziel, fs::perms::owner_write, fs::perm_options::add);  // the data may be write-protected
     }
     /// Both stations of the 3.3 km baseline and the antenna file under the name of a project's.
     void geonet() const

@@ -6,13 +6,20 @@
 #include <string_view>
 #include <system_error>
 
+#include "plattform/systemaufrufe.h"
+
 namespace jorv {
 
 class Abbild {
 public:
     Abbild() = default;
-    /// Maps the regular file; `fehler` tells why not. A file of length 0 gives an empty text and no error.
-    Abbild(const std::filesystem::path& host_pfad, std::error_code& fehler);
+    /// Maps the regular file; `fehler` tells why not. A file of length 0 gives an empty text and no error. Windows: the
+    /// calls are the system's own whatever the table says.
+    Abbild(const Systemaufrufe& aufrufe, const std::filesystem::path& host_pfad, std::error_code& fehler);
+    Abbild(const std::filesystem::path& host_pfad, std::error_code& fehler)
+        : Abbild(Systemaufrufe::echte(), host_pfad, fehler)
+    {
+    }
     Abbild(Abbild&& anderes) noexcept;
     Abbild& operator=(Abbild&& anderes) noexcept;
     Abbild(const Abbild&) = delete;

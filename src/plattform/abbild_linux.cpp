@@ -10,11 +10,13 @@
 
 namespace jorv {
 
-Abbild::Abbild(const std::filesystem::path& host_pfad, std::error_code& fehler)
+Abbild::Abbild(const Systemaufrufe& aufrufe, const std::filesystem::path& host_pfad, std::error_code& fehler)
 {
     fehler.clear();
     // O_NONBLOCK: a pipe in the place of the file must not hang the program.
-    const int nummer = ::open(host_pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    int nummer = -1;
+    do nummer = aufrufe.oeffnen(host_pfad.c_str(), O_RDONLY | O_NONBLOCK, 0);
+    while (nummer < 0 && errno == EINTR);
     struct stat zustand {};
     if (nummer < 0 || ::fstat(nummer, &zustand) != 0) {
         fehler.assign(errno, std::generic_category());
@@ -23,8 +25,10 @@ Abbild::Abbild(const std::filesystem::path& host_pfad, std::error_code& fehler)
             std::make_error_code(S_ISDIR(zustand.st_mode) ? std::errc::is_a_directory : std::errc::invalid_argument);
     } else if (zustand.st_size > 0) {
         const auto laenge = static_cast<std::size_t>(zustand.st_size);
-        void* ort = ::mmap(nullptr, laenge, PROT_READ, MAP_PRIVATE, nummer, 0);
-        if (ort == MAP_FAILED) {
+        void* ort = nullptr;
+        do ort = aufrufe.einblenden(nummer, laenge);
+        while (!ort && errno == EINTR);
+        if (!ort) {
             fehler.assign(errno, std::generic_category());
         } else {
             ::madvise(ort, laenge, MADV_SEQUENTIAL);

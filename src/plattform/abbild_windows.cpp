@@ -6,7 +6,7 @@
 
 namespace jorv {
 
-Abbild::Abbild(const std::filesystem::path& host_pfad, std::error_code& fehler)
+Abbild::Abbild(const Systemaufrufe&, const std::filesystem::path& host_pfad, std::error_code& fehler)
 {
     fehler.clear();
     const HANDLE datei =

@@ -150,7 +150,7 @@ Gelesen Dateisystem::lesen_stufenweise(std::string_view pfad, std::size_t hoechs
 Abbild Dateisystem::abbilden(std::string_view pfad, std::error_code& fehler) const
 {
     const auto ort = m_laufwerke.host(pfad);
-    if (ort) return Abbild(*ort, fehler);
+    if (ort) return Abbild(*m_aufrufe, *ort, fehler);
     fehler = kein_laufwerk();
     return {};
 }
@@ -250,7 +250,7 @@ std::error_code Dateisystem::host_kopieren(const fs::path& quelle, const fs::pat
     if (quelle.empty() || ziel.empty()) return kein_laufwerk();
     std::error_code fehler;
     if (fs::equivalent(quelle, ziel, fehler) && !fehler) return {};
-    const Abbild bild(quelle, fehler);
+    const Abbild bild(*m_aufrufe, quelle, fehler);
     if (fehler) return fehler;
     bild.einlagern();
     Dateistufe stufe;
@@ -282,10 +282,21 @@ std::error_code Dateisystem::ordner_anlegen(std::string_view pfad) const
 {
     const auto ort = m_laufwerke.host(pfad);
     if (!ort) return kein_laufwerk();
+    return ordner_und_eltern(*ort);
+}
+
+std::error_code Dateisystem::ordner_und_eltern(const fs::path& ordner) const
+{
     std::error_code fehler;
-    fs::create_directories(*ort, fehler);
-    if (!fehler && !fs::is_directory(*ort, fehler)) return std::make_error_code(std::errc::not_a_directory);
-    return fehler;
+    const auto zustand = fs::status(ordner, fehler);
+    if (fs::is_directory(zustand)) return {};
+    if (fs::exists(zustand)) return std::make_error_code(std::errc::not_a_directory);
+    const fs::path eltern = ordner.parent_path();
+    if (!eltern.empty() && eltern != ordner)
+        if (const auto oben = ordner_und_eltern(eltern)) return oben;
+    const auto aufruf = [&] { return m_aufrufe->ordner_anlegen(utf8(ordner).c_str()); };
+    // Another program may have made it meanwhile.
+    return ungestoert(aufruf) != 0 && errno != EEXIST ? grund() : std::error_code{};
 }
 
 std::error_code Dateisystem::ordner_loeschen(std::string_view pfad) const

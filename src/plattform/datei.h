@@ -103,6 +103,7 @@ public:
 private:
     std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes, Dauer dauer,
                              Dateistufe& stufe) const;
+    std::error_code ordner_und_eltern(const std::filesystem::path& ordner) const;
     std::error_code alles_schreiben(int nummer, std::string_view bytes, Dauer dauer) const;
 
     Laufwerke m_laufwerke;

@@ -15,6 +15,8 @@ struct Systemaufrufe {
     int (*umbenennen)(const char* alt, const char* neu);                   ///< rename, replacing
     int (*loeschen)(const char* pfad);                                     ///< unlink
     int (*ordner_sichern)(const char* pfad);                               ///< fsync of a folder
+    int (*ordner_anlegen)(const char* pfad);                               ///< mkdir
+    void* (*einblenden)(int nummer, std::size_t laenge);                   ///< mmap for reading; nullptr when it fails
 
     /// The calls of the system at hand.
     static const Systemaufrufe& echte();

@@ -1,4 +1,6 @@
 #include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -35,7 +37,18 @@ int ordner_sichern(const char* pfad)
     return ergebnis != 0 && grund == EINVAL ? 0 : ergebnis;
 }
 
-constexpr Systemaufrufe tabelle{oeffnen, lesen, schreiben, ::fsync, ::close, ::rename, ::unlink, ordner_sichern};
+int ordner_anlegen(const char* pfad)
+{
+    return ::mkdir(pfad, 0777);
+}
+void* einblenden(int nummer, std::size_t laenge)
+{
+    void* const ort = ::mmap(nullptr, laenge, PROT_READ, MAP_PRIVATE, nummer, 0);
+    return ort == MAP_FAILED ? nullptr : ort;
+}
+
+constexpr Systemaufrufe tabelle{oeffnen,  lesen,    schreiben,      ::fsync,        ::close,
+                                ::rename, ::unlink, ordner_sichern, ordner_anlegen, einblenden};
 
 }  // namespace
 

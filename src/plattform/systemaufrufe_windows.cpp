@@ -1,3 +1,4 @@
+#include <direct.h>
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
@@ -43,7 +44,14 @@ int ordner_sichern(const char*)
     return 0;
 }
 
-constexpr Systemaufrufe tabelle{oeffnen, lesen, schreiben, _commit, _close, umbenennen, loeschen, ordner_sichern};
+int ordner_anlegen(const char* pfad)
+{
+    return _wmkdir(breit(pfad).c_str());
+}
+
+// Files are mapped by their handles here.
+constexpr Systemaufrufe tabelle{oeffnen,    lesen,    schreiben,      _commit,        _close,
+                                umbenennen, loeschen, ordner_sichern, ordner_anlegen, nullptr};
 
 }  // namespace
 

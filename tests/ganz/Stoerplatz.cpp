@@ -62,7 +62,9 @@ const Systemaufrufe gestoerte_tafel{
         return ergebnis;
     },
     [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().loeschen(p); },
-    [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().ordner_sichern(p); }};
+    [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().ordner_sichern(p); },
+    [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().ordner_anlegen(p); },
+    [](int n, std::size_t l) { return scheitert() ? nullptr : Systemaufrufe::echte().einblenden(n, l); }};
 
 std::string schluessel(const fs::path& relativ)
 {

@@ -48,7 +48,9 @@ const Systemaufrufe kaputte_tabelle{
     },
     [](const char* a, const char* b) { return scheitert() ? -1 : Systemaufrufe::echte().umbenennen(a, b); },
     [](const char* p) { return Systemaufrufe::echte().loeschen(p); },
-    [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().ordner_sichern(p); }};
+    [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().ordner_sichern(p); },
+    [](const char* p) { return scheitert() ? -1 : Systemaufrufe::echte().ordner_anlegen(p); },
+    [](int n, std::size_t l) { return scheitert() ? nullptr : Systemaufrufe::echte().einblenden(n, l); }};
 
 void fehler_bei(int n, int grund = EIO)
 {
@@ -61,6 +63,29 @@ void fehler_bei(int n, int grund = EIO)
 const std::string alt = "[A]\r\nalter Text=1\r\n", neu = "[A]\r\nneuer, laengerer Text=2\r\n";
 
 }  // namespace
+
+TEST(Datei, OrdnerUndAbbildSagenJedenFehlschlag)
+{
+    const Arbeitsordner ordner;
+    const Dateisystem dateien({}, kaputte_tabelle);
+    hilfen::schreiben(ordner.host() / "a.txt", alt);
+    for (int n = 1; n <= 2; ++n)
+        for (const int grund : {EIO, EINTR}) {
+            fs::remove_all(ordner.host() / "neu");
+            fehler_bei(n, grund);
+            const auto fehler = dateien.ordner_anlegen(ordner.dos() + "\\neu\\darin");
+            EXPECT_EQ(!fehler, grund == EINTR);
+            EXPECT_EQ(fs::is_directory(ordner.host() / "neu" / "darin"), grund == EINTR);
+#ifndef _WIN32
+            fehler_bei(n, grund);
+            std::error_code warum;
+            const auto bild = dateien.abbilden(ordner.dos() + "\\a.txt", warum);
+            EXPECT_EQ(!warum && bild.text() == alt, grund == EINTR) << n;
+#endif
+        }
+    fehler_bei(0);
+    EXPECT_EQ(dateien.ordner_anlegen(ordner.dos() + "\\a.txt\\darin"), std::errc::not_a_directory);
+}
 
 TEST(Datei, JederEinzelneFehlschlagLaesstAltOderNeuGanz)
 {

@@ -8,7 +8,7 @@ bedarf=$bau/bedarf
 einrichtung=$bedarf/einrichtung
 kerne=$(nproc)
 gast=x86_64-w64-mingw32
-pakete=(g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix wine64 cmake ninja-build dpkg-dev googletest
+pakete=(g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix wine wine64 cmake ninja-build dpkg-dev googletest
     nlohmann-json3-dev locales debian-archive-keyring)
 
 hilfe() {

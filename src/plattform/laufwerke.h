@@ -1,7 +1,6 @@
 // Drives and shares: turns the DOS paths of the inside into paths of the host and back.
 // Linux: drive Z: is the root directory, further drives and shares stand in a table; each name is found without regard
-// to case (an existing entry wins, a new file takes the case asked for). Windows: the turn is the identity, but for
-// drives that a test adds.
+// to case (an existing entry wins, a new file takes the case asked for). Windows: the turn is the identity.
 #pragma once
 
 #include <filesystem>
@@ -21,7 +20,7 @@ public:
     /// Child programs inherit it, so the command interpreter sees the same drives.
     static Laufwerke aus_umgebung();
 
-    /// Adds a drive ("D:") or a share ("\\server\freigabe").
+    /// Adds a drive ("D:") or a share ("\\server\freigabe"). Windows: for tests.
     void zuordnen(std::string_view dos_wurzel, std::filesystem::path host_ordner);
 
     /// Stands a folder of the host in the place of a folder ("Z:\\daten\\netz"), which keeps its DOS path. Linux only.
@@ -55,8 +54,8 @@ private:
     struct Zuordnung {
         std::string dos;  // lower case, no "\" at the end
         std::filesystem::path host;
-        std::string name;    // as it is told
-        bool wurzel = true;  // a drive or a share, not a folder on one
+        std::string name;      // as it is told
+        bool wurzel = true;    // a drive or a share, not a folder on one
     };
     const Zuordnung* laengste(std::string_view dos_pfad) const;
     std::vector<Zuordnung> m_tabelle;

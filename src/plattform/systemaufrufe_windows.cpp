@@ -28,11 +28,20 @@ long schreiben(int nummer, const void* bytes, std::size_t anzahl)
 {
     return _write(nummer, bytes, static_cast<unsigned>(anzahl < hoechstens ? anzahl : hoechstens));
 }
+// Scanners and indexers hold a file that has just changed for a moment.
 int umbenennen(const char* alt, const char* neu)
 {
-    if (MoveFileExW(breit(alt).c_str(), breit(neu).c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return 0;
-    errno = GetLastError() == ERROR_DISK_FULL ? ENOSPC : EACCES;
+    constexpr int versuche = 15, pause = 20;  // milliseconds
+    constexpr DWORD art = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    const std::wstring von = breit(alt), nach = breit(neu);
+    DWORD grund = 0;
+    for (int versuch = 0; versuch < versuche; ++versuch) {
+        if (MoveFileExW(von.c_str(), nach.c_str(), art)) return 0;
+        grund = GetLastError();
+        if (grund != ERROR_SHARING_VIOLATION && grund != ERROR_ACCESS_DENIED) break;
+        Sleep(pause);
+    }
+    errno = grund == ERROR_DISK_FULL ? ENOSPC : EACCES;
     return -1;
 }
 int loeschen(const char* pfad)

@@ -2,11 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
-#include <sstream>
 
 #include "plattform/prozess.h"
+#include "plattform/umgebung.h"
 #include "simulator/beispiel.h"
 #include "simulator/szenario_text.h"
 #include "simulator/text.h"
@@ -19,12 +18,7 @@ namespace fs = std::filesystem;
 
 fs::path loeser()
 {
-    const char* pfade = std::getenv("PATH");
-    std::istringstream alle(pfade == nullptr ? "" : pfade);
-    for (std::string ordner; std::getline(alle, ordner, ':');) {
-        if (fs::exists(fs::path(ordner) / "rnx2rtkp")) return fs::path(ordner) / "rnx2rtkp";
-    }
-    return {};
+    return programm_finden("rnx2rtkp");
 }
 
 #define LOESER_NOETIG() \

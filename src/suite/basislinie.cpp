@@ -226,7 +226,7 @@ Ergebnis Lauf::ergebnis(const Fund& fund) const
 {
     const Loeserausgabe& ausgabe = *fund.ausgabe;
     const Urteil& urteil = fund.urteil;
-    const Position& p = ausgabe.positionen[urteil.epoche];
+    const Position& p = fund.position;
     Ergebnis e;
     e.basis_datei = m_basis.name;
     e.rover_datei = m_rover.name;

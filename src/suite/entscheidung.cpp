@@ -12,6 +12,7 @@ namespace {
 // Fewer epochs or less time can't show whether the integers hold.
 constexpr std::size_t EPOCHEN_MINDESTENS = 5;
 constexpr double DAUER_MINDESTENS = 89.0;  // s
+constexpr double FESTE_MINDESTENS = 5.0;   // satellites; four fit any integers
 constexpr double EINIG = 0.030;            // m between a run and its witness
 constexpr double S0_OFFEN = 3.0;           // a float run above it has not modelled the ionosphere
 
@@ -41,15 +42,16 @@ std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, 
 {
     std::vector<Versuch> versuche;
     const auto zeuge = zwei_frequenzen ? std::optional(Laufart::l1_l2) : std::nullopt;
-    const bool ruhig_zuerst = netz && zwei_frequenzen && art == Loesungsart::automatisch;
+    const bool nachausgleichen = zwei_frequenzen && art == Loesungsart::automatisch;
+    const bool ruhig_zuerst = netz && nachausgleichen;
     if (ruhig_zuerst) {
-        versuche.push_back({Laufart::l1, ANNAHME_NETZ, "FixedL1", zeuge});
+        versuche.push_back({Laufart::l1, ANNAHME_NETZ, "FixedL1", zeuge, true});
         versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});
     }
     const Annahme l1 = zwei_frequenzen ? annahme_l1(laenge) : annahme_nur_l1(laenge);
     if (art == Loesungsart::l1 || (art == Loesungsart::automatisch && laenge <= MITTEL)) {
-        versuche.push_back({Laufart::l1, l1, "FixedL1", zeuge});
-        if (zwei_frequenzen) versuche.push_back({Laufart::l1_l2, l1, "FixedL1", {}});
+        versuche.push_back({Laufart::l1, l1, "FixedL1", zeuge, nachausgleichen});
+        if (zwei_frequenzen) versuche.push_back({Laufart::l1_l2, l1, "FixedL1", {}, nachausgleichen});
     }
     if (art != Loesungsart::l1 && zwei_frequenzen && !ruhig_zuerst)
         versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});
@@ -85,6 +87,8 @@ Urteil urteilen(const Loeserausgabe& ausgabe, const Annahme& annahme)
         u.grund = verkettet(u8"Verhältnis unter "_w, fest(annahme.verhaeltnis, 1));
     else if (u.anteil < annahme.anteil)
         u.grund = verkettet("Anteil fester Epochen unter ", fest(annahme.anteil, 2));
+    else if (u.masse.feste < FESTE_MINDESTENS)
+        u.grund = "zu wenige Satelliten";
     else if (u.masse.s0 > annahme.s0)
         u.grund = verkettet(u8"s0 über "_w, fest(annahme.s0, 1));
     else

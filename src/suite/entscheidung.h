@@ -36,6 +36,7 @@ struct Versuch {
     Annahme annahme;
     std::string_view typ;          // word of the result rows
     std::optional<Laufart> zeuge;  // that must come to the same place
+    bool nachausgleichen = false;  // the place is then that of the adjustment of both frequencies
 };
 
 /// The runs to try one after the other until one is accepted. From a station that a network has corrected L1 is taken

@@ -12,12 +12,6 @@ namespace {
 
 constexpr double ZEITGLEICH = 0.002;  // s, both files print milliseconds
 
-double varianz_bei(double elevation)
-{
-    const double s = std::max(std::sin(elevation), 0.05);
-    return 2.0 * SIGMA_PHASE * SIGMA_PHASE * (1.0 + 1.0 / (s * s));
-}
-
 using Gruppe = std::pair<const Restzeile*, const Restzeile*>;
 
 // Runs over the residual lines epoch by epoch.
@@ -37,7 +31,7 @@ public:
     Rechnung(const Loeserausgabe& ausgabe, Massstab massstab) : m_ausgabe(ausgabe), m_massstab(massstab)
     {
         m_varianzen.reserve(ausgabe.reste.size());
-        for (const Restzeile& r : ausgabe.reste) m_varianzen.push_back(varianz_bei(r.elevation));
+        for (const Restzeile& r : ausgabe.reste) m_varianzen.push_back(phasenvarianz(r.elevation));
     }
     Guetemasse ergebnis();
 
@@ -127,6 +121,7 @@ Guetemasse Rechnung::ergebnis()
     Guetemasse g;
     const auto frei = static_cast<double>(m_beobachtungen) - static_cast<double>(m_mittelwerte) - 3.0;
     if (frei > 0) g.s0 = std::sqrt(m_summe / frei);
+    if (m_mittelwerte > 0) g.feste = static_cast<double>(m_beobachtungen) / static_cast<double>(m_mittelwerte);
     m_stelle = 0;
     for (const Restzeile& r : m_ausgabe.reste) {
         const double grenze = 3.0 * g.s0 * std::sqrt(varianz(r));
@@ -146,6 +141,12 @@ Guetemasse Rechnung::ergebnis()
 }
 
 }  // namespace
+
+double phasenvarianz(double elevation)
+{
+    const double s = std::max(std::sin(elevation), 0.05);
+    return 2.0 * SIGMA_PHASE * SIGMA_PHASE * (1.0 + 1.0 / (s * s));
+}
 
 double pdop(const std::vector<std::array<double, 2>>& richtungen)
 {

@@ -13,12 +13,16 @@ struct Guetemasse {
     double s0 = 0.0;                // a posteriori over a priori sigma; see SIGMA_PHASE
     double mehrdeutigkeiten = 0.0;  // percent of the valid observations whose ambiguity was fixed at some time
     double satelliten = 0.0;        // mean number of valid satellites
+    double feste = 0.0;             // of those that the measure counts, in the epochs and frequencies that it counts
     double pdop_beste = 0.0, pdop_mittel = 0.0;
     double umgewichtet = 0.0;  // percent of the observations that were rejected or exceed three sigma
 };
 
 /// A priori sigma of a single phase: sqrt(a^2 + a^2 / sin^2 elevation) with this a, metres.
 inline constexpr double SIGMA_PHASE = 0.003;
+
+/// A priori variance of the difference of two such phases at the elevation (radians), square metres.
+double phasenvarianz(double elevation);
 
 Guetemasse guetemasse(const Loeserausgabe& ausgabe, Massstab massstab);
 

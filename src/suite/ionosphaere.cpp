@@ -78,6 +78,12 @@ private:
     std::map<int, Bogen> m_boegen;
 };
 
+// The ray's angle to the vertical in the layer.
+double winkel_oben(double elevation)
+{
+    return std::asin(ERDRADIUS / (ERDRADIUS + SCHICHT) * std::cos(elevation));
+}
+
 Wertesatz Ausgleich::loesen()
 {
     for (const auto& [satellit, bogen] : m_boegen) abschliessen(bogen);
@@ -98,6 +104,11 @@ Wertesatz Ausgleich::loesen()
 
 }  // namespace
 
+double schraegfaktor(double elevation)
+{
+    return 1.0 / std::cos(winkel_oben(elevation));
+}
+
 Ionosphaere::Ionosphaere(const Geographisch& ort, const std::vector<Restepoche>& reste) : m_mitte(ort)
 {
     if (reste.empty()) return;
@@ -115,7 +126,7 @@ Ionosphaere::Ionosphaere(const Geographisch& ort, const std::vector<Restepoche>&
 // What each unknown counts in a slant delay; the ray meets the layer at its pierce point.
 Wertesatz Ionosphaere::anteile(const Geographisch& ort, double azimut, double elevation, std::int64_t sekunde) const
 {
-    const double oben = std::asin(ERDRADIUS / (ERDRADIUS + SCHICHT) * std::cos(elevation));
+    const double oben = winkel_oben(elevation);
     const double winkel = std::numbers::pi / 2.0 - elevation - oben;  // at the earth's centre
     const double breite =
         std::asin(std::sin(ort.breite) * std::cos(winkel) + std::cos(ort.breite) * std::sin(winkel) * std::cos(azimut));

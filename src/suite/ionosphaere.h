@@ -16,6 +16,9 @@ struct Restepoche;
 /// Ratio of the delays on L2 and L1.
 inline constexpr double IONO_VERHAELTNIS = FREQUENZ1 * FREQUENZ1 / (FREQUENZ2 * FREQUENZ2);
 
+/// Ratio of a slant delay to the vertical one where the ray pierces the layer, at the elevation in radians.
+double schraegfaktor(double elevation);
+
 class Ionosphaere {
 public:
     Ionosphaere() = default;  // none

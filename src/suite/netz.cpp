@@ -11,7 +11,7 @@ namespace jorv::suite {
 
 namespace {
 
-constexpr double RAND = 1800.0;         // s by which the stations are read beyond the span: longer arcs fix better
+constexpr double RAND = 3600.0;         // s by which the stations are read beyond the span: longer arcs fix better
 constexpr double HOECHSTGEWICHT = 1.5;  // sum of the weights' amounts; beyond it the plane is drawn out too far
 constexpr double AUSSERHALB = 15000.0;  // metres from the network; farther out what it says is a guess
 
@@ -83,10 +83,12 @@ void Netzlauf::paar(const Netzstation& station, Gelesen& master)
     Paar paar = paar_loesen(master.reste(m_bahnen, kalibriert), gelesen->reste(m_bahnen, kalibriert),
                             std::max(master.daten.intervall(), gelesen->daten.intervall()));
     const std::string wer = verkettet(m_auftrag.stationen.front().name, " - ", station.name);
-    m_protokoll.zeile(verkettet(
-        "  ", wer, ", ", fest(laenge(station.ort - m_auftrag.stationen.front().ort) / 1000.0, 1), " km: ", paar.fest,
-        " von ", paar.boegen, u8" Mehrdeutigkeiten fest, Rest "_w, fest(paar.bruch, 3), " Zyklen, Zenitunterschied ",
-        fest(paar.zenit * 1000.0, 0), " mm: ", paar.brauchbar() ? "benutzt" : "abgelehnt"));
+    m_protokoll.zeile(
+        verkettet("  ", wer, ", ", fest(laenge(station.ort - m_auftrag.stationen.front().ort) / 1000.0, 1),
+                  " km: ", paar.fest, " von ", paar.boegen, u8" Mehrdeutigkeiten fest, Rest "_w, fest(paar.bruch, 3),
+                  " Zyklen, Zenitunterschied ", fest(paar.zenit * 1000.0, 0), " mm, Ort um ",
+                  fest(std::hypot(paar.versatz.e, paar.versatz.n) * 1000.0, 0), u8" mm, Höhe um "_w,
+                  fest(paar.versatz.u * 1000.0, 0), " mm daneben: ", paar.brauchbar() ? "benutzt" : "abgelehnt"));
     if (!paar.brauchbar()) {
         m_protokoll.warnung(verkettet("Die Station ", station.name, " passt nicht zu ",
                                       m_auftrag.stationen.front().name,

@@ -23,7 +23,12 @@ constexpr double SIGMA = 0.010;            // of an ionosphere-free difference i
 constexpr std::size_t LUFTWERTE = 4;
 constexpr std::array<double, LUFTWERTE> SIGMA_LUFT = {0.15, 0.03, 0.0005, 0.0005};
 constexpr double SICHER = 0.12, NAHE = 0.25;  // cycles
-constexpr double BRUCH_HOECHSTENS = 0.13;
+constexpr double BRUCH_HOECHSTENS = 0.13, ANTEIL_FEST = 0.6;
+// Metres by which the second station's place may come out beside its coordinates before anything is fixed, level and in
+// height, from two and a quarter hours; less time tells less.
+constexpr double VERSATZ_LAGE = 0.10, VERSATZ_HOEHE = 0.15, VERSATZ_DAUER = 8100.0;
+constexpr std::size_t WEITERE = LUFTWERTE + 3;  // unknowns beside the integers
+constexpr double SIGMA_ORT = 100.0;             // metres, expected of the place when it is left free
 
 // A satellite's difference of two stations in one epoch.
 struct Differenz {
@@ -32,6 +37,7 @@ struct Differenz {
     double l1 = 0, l2 = 0, weit = 0;  // metres; the last is phase wide lane less code narrow lane
     double sinus = 0, feucht = 0;
     double nord = 0, ost = 0;  // what a gradient of the troposphere counts
+    Enu richtung;              // from the second station
     double frei() const { return B1 * l1 + B2 * l2; }
 };
 struct Differenzepoche {
@@ -56,6 +62,7 @@ Differenz differenz(const Rest& a, const Rest& b)
     // Chen and Herring (1997), Journal of Geophysical Research 102(B9): gradients count 1/(sin tan + 0.0032).
     const double sinus = std::min(a.sinus, b.sinus);
     const double schief = 1.0 / (sinus * sinus / std::sqrt(1.0 - sinus * sinus) + 0.0032);
+    const double flach = std::sqrt(1.0 - b.sinus * b.sinus);
     return {a.satellit,
             0,
             l1,
@@ -64,7 +71,8 @@ Differenz differenz(const Rest& a, const Rest& b)
             sinus,
             (a.feucht + b.feucht) / 2.0,
             schief * std::cos(a.azimut),
-            schief * std::sin(a.azimut)};
+            schief * std::sin(a.azimut),
+            {flach * std::sin(b.azimut), flach * std::cos(b.azimut), b.sinus}};
 }
 
 double median(std::vector<double> werte)
@@ -173,13 +181,13 @@ void Paarrechner::weitspur()
         }
 }
 
-// Unknowns: one narrow-lane integer for each arc, then offset and hourly rate of the relative zenith delay and its
-// gradients.
+// Unknowns: one narrow-lane integer for each arc, then offset and hourly rate of the relative zenith delay, its
+// gradients, and the second station's place.
 Normalgleichung Paarrechner::normalgleichung(double mitte) const
 {
     const std::size_t n = m_boegen.size();
-    Normalgleichung g(n + LUFTWERTE);
-    std::vector<double> summe(n + LUFTWERTE);
+    Normalgleichung g(n + WEITERE);
+    std::vector<double> summe(n + WEITERE);
     for (const Differenzepoche& e : m_epochen) {
         const double stunde = (static_cast<double>(e.sekunde) - mitte) / 3600.0;
         double gewichte = 0, summe_y = 0;
@@ -189,8 +197,10 @@ Normalgleichung Paarrechner::normalgleichung(double mitte) const
             const Bogen& b = m_boegen[d.bogen];
             if (!b.benutzt) continue;
             const double w = gewicht(d) / (SIGMA * SIGMA), y = d.frei() + B2 * LAMBDA2 * b.nw - b.anfang;
-            const std::array<std::size_t, 1 + LUFTWERTE> stelle = {d.bogen, n, n + 1, n + 2, n + 3};
-            const std::array<double, 1 + LUFTWERTE> x = {ENGSPUR, d.feucht, d.feucht * stunde, d.nord, d.ost};
+            const Enu& r = d.richtung;
+            const std::array<std::size_t, 1 + WEITERE> stelle = {d.bogen, n, n + 1, n + 2, n + 3, n + 4, n + 5, n + 6};
+            const std::array<double, 1 + WEITERE> x = {ENGSPUR, d.feucht, d.feucht * stunde, d.nord, d.ost, -r.e,
+                                                       -r.n,    -r.u};
             for (std::size_t i = 0; i < x.size(); ++i) {
                 for (std::size_t k = 0; k < x.size(); ++k) g.bei(stelle[i], stelle[k]) += w * x[i] * x[k];
                 g.rechts(stelle[i]) += w * x[i] * y;
@@ -201,7 +211,7 @@ Normalgleichung Paarrechner::normalgleichung(double mitte) const
             summe_y += w * y;
         }
         if (beteiligt.empty()) continue;
-        beteiligt.insert(beteiligt.end(), {n, n + 1, n + 2, n + 3});
+        beteiligt.insert(beteiligt.end(), {n, n + 1, n + 2, n + 3, n + 4, n + 5, n + 6});
         for (const std::size_t i : beteiligt) {  // the epoch's clocks go out with the weighted mean
             for (const std::size_t k : beteiligt) g.bei(i, k) -= summe[i] * summe[k] / gewichte;
             g.rechts(i) -= summe[i] * summe_y / gewichte;
@@ -209,6 +219,7 @@ Normalgleichung Paarrechner::normalgleichung(double mitte) const
     }
     for (std::size_t i = 0; i < n; ++i) g.bei(i, i) += 1e-8;  // arcs that nothing ties to the reference
     for (std::size_t i = 0; i < LUFTWERTE; ++i) g.bei(n + i, n + i) += 1.0 / (SIGMA_LUFT[i] * SIGMA_LUFT[i]);
+    for (std::size_t i = LUFTWERTE; i < WEITERE; ++i) g.bei(n + i, n + i) += 1.0 / (SIGMA_ORT * SIGMA_ORT);
     return g;
 }
 
@@ -217,9 +228,17 @@ void Paarrechner::engspur(Paar& paar)
     const std::size_t n = m_boegen.size();
     const double mitte = static_cast<double>(m_epochen.front().sekunde + m_epochen.back().sekunde) / 2.0;
     const Normalgleichung g = normalgleichung(mitte);
-    std::vector<bool> frei(n + LUFTWERTE, true);
-    std::vector<double> gehalten(n + LUFTWERTE);
+    std::vector<bool> frei(n + WEITERE, true);
+    std::vector<double> gehalten(n + WEITERE);
     for (std::size_t i = 0; i < n; ++i) frei[i] = m_boegen[i].benutzt && i != m_bezug;
+    if (const auto l = g.loesen(frei, gehalten)) {
+        const auto ort = [&](const std::vector<double>& wert) {
+            return Enu{wert[n + LUFTWERTE], wert[n + LUFTWERTE + 1], wert[n + LUFTWERTE + 2]};
+        };
+        paar.versatz = ort(l->wert);
+        paar.versatz_sigma = ort(l->sigma);
+    }
+    std::fill(frei.begin() + static_cast<std::ptrdiff_t>(n + LUFTWERTE), frei.end(), false);
     m_boegen[m_bezug].fest = true;
     double quadrate = 0;
     for (;;) {
@@ -271,6 +290,7 @@ Paar Paarrechner::rechnen(const std::vector<Restepoche>& erste, const std::vecto
     }
     boegen_waehlen();
     if (m_bezug == m_boegen.size()) return paar;
+    paar.dauer = static_cast<double>(m_epochen.back().sekunde - m_epochen.front().sekunde);
     weitspur();
     engspur(paar);
     ergebnis(paar);
@@ -281,7 +301,12 @@ Paar Paarrechner::rechnen(const std::vector<Restepoche>& erste, const std::vecto
 
 bool Paar::brauchbar() const
 {
-    return fest >= 3 && 2 * fest >= boegen && bruch <= BRUCH_HOECHSTENS;
+    const double mal = std::pow(std::max(1.0, VERSATZ_DAUER / std::max(1.0, dauer)), 1.5);
+    const auto& s = versatz_sigma;
+    const bool am_ort = std::hypot(versatz.e, versatz.n) <= std::max(VERSATZ_LAGE * mal, 3.0 * std::hypot(s.e, s.n)) &&
+                        std::abs(versatz.u) <= std::max(VERSATZ_HOEHE * mal, 3.0 * s.u);
+    return am_ort && fest >= 3 && static_cast<double>(fest) >= ANTEIL_FEST * static_cast<double>(boegen) &&
+           bruch <= BRUCH_HOECHSTENS;
 }
 
 Paar paar_loesen(const std::vector<Restepoche>& erste, const std::vector<Restepoche>& zweite, double intervall)

@@ -22,11 +22,15 @@ struct Paarepoche {
 
 struct Paar {
     std::size_t boegen = 0, fest = 0;
-    double bruch = 0;  // rms of the rounded parts, cycles of 10.7 cm
-    double zenit = 0;  // difference of the zenith delays in the middle, beyond the model; metres
+    double bruch = 0;            // rms of the rounded parts, cycles of 10.7 cm
+    double zenit = 0;            // difference of the zenith delays in the middle, beyond the model; metres
+    Enu versatz, versatz_sigma;  // of the second station beside its coordinates, while nothing is fixed; metres
+    double dauer = 0;            // s
     std::vector<Paarepoche> epochen;
 
-    /// Enough arcs fixed, near enough to integers: a station whose place is wrong by a decimetre fails here.
+    /// Enough arcs fixed, near enough to integers, and the station where it should be. Of 96 quarters of an hour of
+    /// real pairs (51 to 181 km, read an hour wider) 90 pass, of 96 hours 94; with a place wrong by 17 cm level or 30
+    /// cm in height none of these does, by 17 cm in height one in fifteen, and most with 10 cm in height.
     bool brauchbar() const;
 };
 

@@ -4,6 +4,7 @@
 
 #include "plattform/text.h"
 #include "plattform/zahl.h"
+#include "suite/nachausgleich.h"
 #include "suite/spalten.h"
 
 namespace jorv::suite {
@@ -11,6 +12,7 @@ namespace jorv::suite {
 namespace {
 
 constexpr std::string_view LOESERVERSION = "2.4.3";  // the one whose option words and columns are known
+constexpr double S0_L1 = 0.8;  // misfit of L1 alone to that of both, which the ionosphere disturbs more
 
 }  // namespace
 
@@ -42,8 +44,8 @@ void Versuchsreihe::zeile(Laufart art, const Loeserlauf& lauf, const Urteil& urt
     m_protokoll.zeile(text.append(ausgang));
 }
 
-// Runs both; the witness's line tells what it says.
-bool Versuchsreihe::bestaetigt(const Versuch& versuch, const Position& position)
+// Runs both; the witness's line tells what it says. Its place, or nothing when it doesn't agree.
+const Position* Versuchsreihe::bestaetigt(const Versuch& versuch, const Position& position)
 {
     const Loeserlauf& zeuge = lauf(*versuch.zeuge);
     const Urteil seines = urteilen(zeuge.ausgabe, ANNAHME_ZEUGE);
@@ -51,7 +53,23 @@ bool Versuchsreihe::bestaetigt(const Versuch& versuch, const Position& position)
     const bool gut = seines.angenommen && einig(position, zeuge.ausgabe.positionen[seines.epoche], grund);
     zeile(*versuch.zeuge, zeuge, seines,
           verkettet(gut ? u8"bestätigt "_w : u8"bestätigt nicht "_w, laufname(versuch.art), gut ? "" : ", ", grund));
-    return gut;
+    return gut ? &zeuge.ausgabe.positionen[seines.epoche] : nullptr;
+}
+
+// The place of the run of both frequencies, adjusted once more; one far from what was accepted is not believed.
+void Versuchsreihe::nachausgleichen(const Versuch& versuch, const Position& ende, Fund& fund)
+{
+    const bool zwei = versuch.art == Laufart::l1_l2;
+    const double s0 = fund.urteil.masse.s0 * (zwei ? S0_L1 : 1.0);
+    const auto neu =
+        suite::nachausgleichen(lauf(versuch.zeuge.value_or(versuch.art)).ausgabe, ende, fund.position.ort, s0);
+    std::string grund;
+    if (!neu || !einig(fund.position, neu->position, grund)) return;
+    m_protokoll.zeile(verkettet(u8"Ausgleich L1 und L2, Ionosphäre "_w, fest(neu->ionosphaere * 1000.0, 1), " mm: um ",
+                                fest(laenge(neu->position.ort - fund.position.ort) * 1000.0, 1), " mm verschoben"));
+    fund.position.ort = neu->position.ort;
+    fund.position.sigma = neu->position.sigma;
+    fund.position.gemischt = neu->position.gemischt;
 }
 
 std::optional<Fund> Versuchsreihe::fest_loesen(const std::vector<Versuch>& versuche)
@@ -62,8 +80,12 @@ std::optional<Fund> Versuchsreihe::fest_loesen(const std::vector<Versuch>& versu
         Urteil urteil = urteilen(dieser.ausgabe, versuch.annahme);
         zeile(versuch.art, dieser, urteil, urteil.angenommen ? "angenommen" : urteil.grund);
         if (!urteil.angenommen) continue;
-        if (versuch.zeuge && !bestaetigt(versuch, dieser.ausgabe.positionen[urteil.epoche])) continue;
-        return Fund{&dieser.ausgabe, std::move(urteil), versuch.typ};
+        const Position& hier = dieser.ausgabe.positionen[urteil.epoche];
+        const Position* ende = versuch.zeuge ? bestaetigt(versuch, hier) : &hier;
+        if (!ende) continue;
+        Fund fund{&dieser.ausgabe, std::move(urteil), versuch.typ, hier};
+        if (versuch.nachausgleichen) nachausgleichen(versuch, *ende, fund);
+        return fund;
     }
     return {};
 }
@@ -78,7 +100,8 @@ std::optional<Fund> Versuchsreihe::offen_loesen(const std::vector<Laufart>& arte
         if (!urteil.angenommen) continue;
         m_protokoll.warnung(art == Laufart::code ? u8"Nur eine Lösung aus Codemessungen (Meter)."_w
                                                  : u8"Die Mehrdeutigkeiten sind nicht festgesetzt (Dezimeter)."_w);
-        return Fund{&dieser.ausgabe, std::move(urteil), "FloatDGNSS"};
+        const Position& hier = dieser.ausgabe.positionen[urteil.epoche];
+        return Fund{&dieser.ausgabe, std::move(urteil), "FloatDGNSS", hier};
     }
     return {};
 }

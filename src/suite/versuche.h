@@ -16,6 +16,7 @@ struct Fund {
     const Loeserausgabe* ausgabe = nullptr;
     Urteil urteil;
     std::string_view typ;
+    Position position;  // the result
 };
 
 class Versuchsreihe {
@@ -29,7 +30,8 @@ public:
 
 private:
     const Loeserlauf& lauf(Laufart art);
-    bool bestaetigt(const Versuch& versuch, const Position& position);
+    const Position* bestaetigt(const Versuch& versuch, const Position& position);
+    void nachausgleichen(const Versuch& versuch, const Position& ende, Fund& fund);
     void zeile(Laufart art, const Loeserlauf& lauf, const Urteil& urteil, std::string_view ausgang);
 
     const Loeser& m_loeser;

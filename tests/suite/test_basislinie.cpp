@@ -290,7 +290,7 @@ TEST(Basislinie, rover_mit_einer_sekunde)
     for (std::size_t i = 0; i < 2; ++i) {
         const std::string rover = i == 0 ? "upc10770.10o" : "upc20770.10o";
         ASSERT_EQ(p.wav2({rover, "garr"}).status, 0);
-        const Lauf lauf = p.wa2({"virt077.10o", rover, "+R30"});
+        const Lauf lauf = p.wa2({"virt077.10o", rover, "+R30", "+TL1"});
         ASSERT_EQ(lauf.status, 0) << lauf.ausgabe;
         EXPECT_EQ(p.wort("typ"), "FixedL1");
         EXPECT_EQ(p.wert("epochen"), 120);

@@ -12,6 +12,7 @@ namespace {
 struct Reihe {
     std::size_t epochen = 120, fest_ab = 20, offen_am_ende = 0;
     double verhaeltnis = 10.0, s0 = 0.4;
+    int satelliten = 6;
 };
 
 Loeserausgabe lauf(const Reihe& r)
@@ -23,7 +24,7 @@ Loeserausgabe lauf(const Reihe& r)
         p.guete = i >= r.fest_ab && i + r.offen_am_ende < r.epochen ? Guete::fest : Guete::offen;
         p.verhaeltnis = r.verhaeltnis;
         a.positionen.push_back(p);
-        for (int s = 0; s < 6; ++s) {
+        for (int s = 0; s < r.satelliten; ++s) {
             const double e = (25.0 + 10.0 * s) * GRAD;
             const double sigma = SIGMA_PHASE * std::sqrt(2.0 * (1.0 + 1.0 / (std::sin(e) * std::sin(e))));
             const double vorzeichen = (static_cast<std::size_t>(s) + i) % 2 == 0 ? 1.0 : -1.0;
@@ -69,6 +70,8 @@ TEST(Entscheidung, urteilt_nach_der_reihe_und_der_wahren_laenge)
         {"letztes Zehntel offen", {120, 20, 13, 10, 0.4}, false, false, false},
         {"vier Epochen", {4, 0, 0, 10, 0.4}, false, false, false},
         {"nie fest", {120, 120, 0, 10, 0.4}, false, false, false},
+        {"fuenf Satelliten", {120, 20, 0, 10, 0.4, 5}, true, true, true},
+        {"vier Satelliten", {120, 20, 0, 10, 0.4, 4}, false, false, false},
     };
     for (const Fall& f : faelle) {
         const Loeserausgabe a = lauf(f.reihe);

@@ -4,6 +4,7 @@
 
 #include "suite/Pruefdaten.h"
 #include "suite/herkunft.h"
+#include "suite/netz_mehrdeutigkeiten.h"
 #include "suite/stationen.h"
 
 namespace jorv::suite {
@@ -154,6 +155,65 @@ TEST(Virtuelle_station, fuegt_stundendateien_einer_station_zusammen)
     p.schreiben("3040092b.05o", ganz.substr(0, ende_kopf) + ganz.substr(schnitt));
     EXPECT_EQ(p.wav2({ROVER, "3040"}).status, 0);
     EXPECT_EQ(virtuelle(p).epochen.size(), 120u);
+}
+
+// Quarters of an hour in the morning, when the ionosphere changes fast: the stations' longer data still fix, and show a
+// header that is wrong by less than a wide lane.
+TEST(Virtuelle_station, paar_wirklicher_stationen_ueber_eine_viertelstunde)
+{
+    NUR_MIT_DATEN("katalonien2010");
+    const Pruefordner p;
+    for (const char* name : {"upc10770.10o", "garr0770.10o", "mata0770.10o", "brdc0770.10n"})
+        p.holen(echt() / "katalonien2010" / name);
+    p.holen(echt() / "antennen" / "igs08_auszug.atx", "001.ATX");
+    const std::string gut = p.text("mata0770.10o");
+    constexpr std::string_view KOPF = "  4776835.5870   202618.9947  4207574.6304";
+    const Ort mata({4776835.5870, 202618.9947, 4207574.6304});
+    constexpr double HOEHER = 0.042;  // metres, what makes the network's heights agree
+    for (const Enu& daneben : {Enu{}, Enu{0.17, 0, 0}, Enu{0, 0.17, 0}, Enu{0, 0, 0.3}, Enu{25, 0, 0}}) {
+        std::string falsch;
+        for (std::size_t i = 0; i < 3; ++i) {
+            const auto& h = mata.horizont;
+            const std::array<double, 3> xyz = {mata.xyz.x, mata.xyz.y, mata.xyz.z};
+            const std::string zahl =
+                fest(xyz[i] + daneben.e * h[0][i] + daneben.n * h[1][i] + (daneben.u + HOEHER) * h[2][i], 4);
+            falsch.append(14 - zahl.size(), ' ').append(zahl);
+        }
+        std::string text = gut;
+        p.schreiben("mata0770.10o", text.replace(text.find(KOPF), KOPF.size(), falsch));
+        const bool richtig = daneben.e == 0 && daneben.n == 0 && daneben.u == 0;
+        for (const char* viertel : {"050000", "051500", "053000", "054500"}) {
+            const std::string ende =
+                verkettet(mitte(viertel, 1, 2), ganz_streng(mitte(viertel, 3, 2)).value() + 14, "59");
+            const Lauf lauf =
+                p.wav2({"upc10770.10o", "garr,mata", "+A001.ATX", "+b" + std::string(viertel), "+e" + ende});
+            ASSERT_EQ(lauf.status, 0) << lauf.ausgabe;
+            EXPECT_EQ(lauf.meldet("im Netz mit"), richtig) << viertel << " " << daneben.e << "\n" << lauf.protokoll;
+        }
+    }
+}
+
+TEST(Virtuelle_station, paar_braucht_feste_boegen_nah_an_ganzen_zahlen_und_am_ort)
+{
+    struct Fall {
+        const char* name;
+        Paar paar;
+        bool brauchbar;
+    };
+    const Enu genau{0.02, 0.02, 0.04};
+    const double lang = 9000, kurz = 3600;
+    for (const Fall& f :
+         {Fall{"gut", {10, 7, 0.10, 0, {0.05, -0.05, 0.1}, genau, lang, {}}, true},
+          Fall{"zwei Boegen", {2, 2, 0.05, 0, {}, genau, lang, {}}, false},
+          Fall{"zu wenige fest", {10, 5, 0.05, 0, {}, genau, lang, {}}, false},
+          Fall{"gerade genug fest", {10, 6, 0.05, 0, {}, genau, lang, {}}, true},
+          Fall{"zwischen den ganzen Zahlen", {10, 10, 0.14, 0, {}, genau, lang, {}}, false},
+          Fall{"Lage", {10, 10, 0.05, 0, {0.09, 0.09, 0}, genau, lang, {}}, false},
+          Fall{"Hoehe", {10, 10, 0.05, 0, {0, 0, -0.16}, genau, lang, {}}, false},
+          Fall{"kurz, also ungenau", {10, 10, 0.05, 0, {0.2, 0.2, 0.4}, genau, kurz, {}}, true},
+          Fall{"kurz und weit", {10, 10, 0.05, 0, {0.3, 0.2, 0}, genau, kurz, {}}, false},
+          Fall{"schwache Geometrie", {10, 10, 0.05, 0, {0.2, 0, 0}, {0.07, 0.01, 0.1}, lang, {}}, true}})
+        EXPECT_EQ(f.paar.brauchbar(), f.brauchbar) << f.name;
 }
 
 TEST(Virtuelle_station, herkunft_steht_in_einer_zeile)

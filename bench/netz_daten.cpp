@@ -33,12 +33,13 @@ struct Soll {
     double hoeher = 0.0;          // metres on the header's height, from the network's own day-long solutions
     std::string_view bezug = {};  // the header is too coarse: the place is what this station gives for the whole span
     bool hoehe_bekannt = true;
+    std::string_view nachbar = {};  // a point some metres away; both then share what the reference's way errs by
 };
 constexpr std::array<Soll, 6> SOLL = {{{"MATA", 0.042},
                                        {"CREU", 0.008},
                                        {"EBRE", 0.078},
-                                       {"UPC1", 0.0, "MATA", false},
-                                       {"UPC2", 0.0, "MATA", false},
+                                       {"UPC1", 0.0, "MATA", false, "UPC2"},
+                                       {"UPC2", 0.0, "MATA", false, "UPC1"},
                                        {"0759", 0.0, "3040", true}}};
 
 struct Station {
@@ -128,6 +129,7 @@ private:
     std::optional<suite::Ergebnis> rechnen(const std::string& datei, const std::vector<const Station*>& um,
                                            std::size_t anzahl, const std::string& wie);
     void stueck(const Station& r, const std::vector<const Station*>& um, const Weg& weg, Zeile& zeile);
+    std::optional<suite::Xyz> sollort(const Station& r, const Station& bezug);
 
     std::string m_netz;
     std::vector<Station> m_stationen;
@@ -219,6 +221,23 @@ void ausgeben(const std::string& wer, const std::string& weg, const Zeile& z, bo
     std::fflush(stdout);
 }
 
+// Two points side by side get places that differ by what is measured between them: the long ways' mean serves both.
+std::optional<suite::Xyz> Netzlauf::sollort(const Station& r, const Station& bezug)
+{
+    const auto fest = [](const auto& e) { return e && e->loesungstyp.starts_with("Fixed"); };
+    const auto eigener = rechnen(r.datei, {&bezug}, 0, "+TL0");
+    if (!fest(eigener)) return {};
+    const auto nachbar = std::find_if(m_stationen.begin(), m_stationen.end(),
+                                      [&](const Station& s) { return s.name == r.soll->nachbar; });
+    if (nachbar == m_stationen.end()) return eigener->rover;
+    const auto seiner = rechnen(nachbar->datei, {&bezug}, 0, "+TL0"), weg = rechnen(r.datei, {&*nachbar}, 0, "+TL1");
+    if (!fest(seiner) || !fest(weg)) return {};
+    const suite::Xyz unterschied = seiner->rover + (weg->rover - weg->basis) - eigener->rover;
+    std::printf("# %s: zwei Wege zum Sollort, %s mm verschieden\n", r.name.c_str(),
+                jorv::fest(1000 * suite::laenge(unterschied), 1).c_str());
+    return eigener->rover + suite::Xyz{unterschied.x / 2, unterschied.y / 2, unterschied.z / 2};
+}
+
 void Netzlauf::rover(Station& r, const std::vector<double>& laengen)
 {
     const std::vector<const Station*> um = nachbarn(r);
@@ -227,9 +246,9 @@ void Netzlauf::rover(Station& r, const std::vector<double>& laengen)
         const auto bezug =
             std::find_if(um.begin(), um.end(), [&](const Station* s) { return s->name == r.soll->bezug; });
         if (bezug == um.end()) return;
-        const auto e = rechnen(r.datei, {*bezug}, 0, "+TL0");
-        if (!e || !e->loesungstyp.starts_with("Fixed")) return;
-        r.ort = e->rover;
+        const auto ort = sollort(r, **bezug);
+        if (!ort) return;
+        r.ort = *ort;
     }
     std::vector<Weg> wege = {{"direkt", 0}, {"verschoben", 1}};
     if (um.size() > 1) wege.push_back({"Netz 2", 2});

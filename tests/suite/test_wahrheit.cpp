@@ -180,6 +180,32 @@ TEST(Wahrheit, ionosphaere_aus_den_phasen_der_naechsten_station)
     }
 }
 
+// What the ionosphere leaves in L1 the second frequency tells, unless L1 alone is asked for.
+TEST(Wahrheit, zweite_frequenz_nimmt_die_ionosphaere_aus_l1)
+{
+    NUR_MIT_LOESER();
+    simulator::Szenario s = beispiel();
+    s.wirkungen.ionosphaere = {15, -0.016, 0.008, 0.15, 200, 20, 150};
+    std::erase_if(s.punkte, [](const auto& p) { return p.pkz != "5501" && p.pkz != "0590"; });
+    for (simulator::Punkt& p : s.punkte) p.von = 9 * 3600.0, p.bis = 10 * 3600.0, p.takt = 30;
+    const simulator::Punkt& rover = s.punkte.back();
+    const std::string datei = simulator::dateiname(s, rover, 'o');
+    const Pruefordner p;
+    schreiben(p, s);
+    ASSERT_EQ(p.wav2({datei, "0590", "+A001.ATX"}).status, 0);
+    for (const std::string& basis : {simulator::dateiname(s, s.punkte.front(), 'o'), std::string("virt167.16o")}) {
+        const auto lage = [&](const char* art) {
+            EXPECT_EQ(p.wa2({basis, datei, "+ACF001.ATX", art}).status, 0);
+            EXPECT_EQ(p.wort("typ"), "FixedL1");
+            const Enu d = abweichung_mm(p.rover(), wahr(rover));
+            return std::hypot(d.e, d.n);
+        };
+        const double l1 = lage("+TL1"), beide = lage("+L1");
+        EXPECT_LT(beide, 3.0) << basis;
+        EXPECT_LT(beide, 0.5 * l1) << basis;
+    }
+}
+
 namespace {
 
 const Ort MASTER({3844000, 650000, 5030000});

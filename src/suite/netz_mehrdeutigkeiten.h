@@ -30,7 +30,7 @@ struct Paar {
 
     /// Enough arcs fixed, near enough to integers, and the station where it should be. Of 96 quarters of an hour of
     /// real pairs (51 to 181 km, read an hour wider) 90 pass, of 96 hours 94; with a place wrong by 17 cm level or 30
-    /// cm in height none of these does, by 17 cm in height one in fifteen, and most with 10 cm in height.
+    /// cm in height none of these does, by 17 cm in height one in thirteen, and most with 10 cm in height.
     bool brauchbar() const;
 };
 

@@ -44,6 +44,11 @@ Gestartet fenster_starten(const Fensterstart& start, Fensterausgabe ausgabe, con
     const bool fenster = ausgabe != Fensterausgabe::fehlerausgabe;
     STARTUPINFOW auskunft{};
     auskunft.cb = sizeof auskunft;
+    if (!fenster) {
+        // Both streams: what this program itself writes to its output must stay alone there.
+        auskunft.dwFlags = STARTF_USESTDHANDLES;
+        auskunft.hStdOutput = auskunft.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+    }
     PROCESS_INFORMATION kind{};
     if (CreateProcessW(nullptr, zeile.data(), nullptr, nullptr, fenster ? FALSE : TRUE,
                        fenster ? CREATE_NEW_CONSOLE : 0, nullptr, start.ordner.empty() ? nullptr : start.ordner.c_str(),

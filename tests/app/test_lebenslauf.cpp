@@ -199,7 +199,9 @@ const Systemaufrufe stoerend{
     },
     [](const char* a, const char* b) { return gestoert() ? -1 : Systemaufrufe::echte().umbenennen(a, b); },
     [](const char* p) { return gestoert() ? -1 : Systemaufrufe::echte().loeschen(p); },
-    [](const char* p) { return gestoert() ? -1 : Systemaufrufe::echte().ordner_sichern(p); }};
+    [](const char* p) { return gestoert() ? -1 : Systemaufrufe::echte().ordner_sichern(p); },
+    [](const char* p) { return gestoert() ? -1 : Systemaufrufe::echte().ordner_anlegen(p); },
+    [](int n, std::size_t l) { return gestoert() ? nullptr : Systemaufrufe::echte().einblenden(n, l); }};
 
 struct Handlung {
     const char* was;

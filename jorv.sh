@@ -15,7 +15,8 @@ hilfe() {
     cat <<TEXT
 ./jorv.sh beispiel        richtet ein, baut, erzeugt ein Beispielnetz, wertet es aus und vergleicht mit der Wahrheit
 ./jorv.sh start [beispiel]
-                          richtet ein, baut und öffnet das Fenster, mit "beispiel" auf dem erzeugten Beispiel
+                          richtet ein, baut und öffnet das Fenster; mit "beispiel" ist das erzeugte Beispiel der Eintrag 1
+                          im Menü Datei
 ./jorv.sh test [--lang]   richtet ein, baut und prüft alles; --lang nimmt die langen Prüfungen dazu und füttert
                           danach jeden Leser 60 Sekunden lang mit zufälligen Bytes (fuzz/)
 ./jorv.sh paket           richtet ein, baut und packt das Debian-Paket, nennt seinen Pfad

@@ -42,7 +42,7 @@ void Antennenwarnung::lesen(const Global& g, const std::string& protokoll, std::
 void Antennenwarnung::melden(Global& g) const
 {
     if (m_stuecke.empty()) return;
-    std::string text(
+    std::string text = verkettet(
         u8"Achtung!\n\nFür diese Antennen wurde keine Kalibrierung gefunden. An ihren Punkten wurde ohne "
         u8"Antennenkorrektur gerechnet:\n\n"_w);
     std::size_t gezeigt = 0;

@@ -73,7 +73,8 @@ std::optional<Antennenblock> antenne_suchen(std::string_view antex, std::string_
     for (std::size_t stelle = 0; stelle < antex.size();) {
         const std::size_t zeilenanfang = stelle;
         const auto ende = std::min(antex.find('\n', stelle), antex.size());
-        const std::string_view zeile = antex.substr(stelle, ende - stelle);
+        std::string_view zeile = antex.substr(stelle, ende - stelle);
+        if (zeile.ends_with('\r')) zeile.remove_suffix(1);
         stelle = ende + 1;
         ++nummer_der_zeile;
         const std::string_view marke = spalten(zeile, 60, 20);
@@ -90,8 +91,8 @@ std::optional<Antennenblock> antenne_suchen(std::string_view antex, std::string_
         } else if (marke == "END OF ANTENNA" && blockrang < bester_rang) {
             bester_rang = blockrang;
             const std::string_view text = antex.substr(anfang, std::min(stelle, antex.size()) - anfang);
-            bester = Antennenblock{ersetzt(text, "\r", ""), static_cast<Antennenfund>(blockrang / 10),
-                                   std::string(blockname), blockzeile, blockrang == ANDERER_TYP && !typ.empty()};
+            bester = Antennenblock{std::string(text), static_cast<Antennenfund>(blockrang / 10), std::string(blockname),
+                                   blockzeile, blockrang == ANDERER_TYP && !typ.empty()};
         }
     }
     return bester;

@@ -7,6 +7,7 @@
 #include "plattform/profil.h"
 #include "plattform/text.h"
 #include "plattform/zahl.h"
+#include "projekt/verfahrensliste.h"
 
 namespace jorv {
 
@@ -42,12 +43,6 @@ Importurteil name_urteilen(const Global& g, Importdialog& d)
     const std::string& name = d.wert(Importfeld::name);
     if (name.empty()) return {fehlt, false, false};
     return Index_zu_Name(g, name) != 0 ? Importurteil{vergeben, false, false} : Importurteil{ok, true, false};
-}
-
-// The project list holds three digits only: any other number would be lost at the next start.
-bool ist_Nummer(std::string_view text)
-{
-    return text.size() == 3 && text != "000" && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 Importurteil nummer_urteilen(const Global& g, Importdialog& d)

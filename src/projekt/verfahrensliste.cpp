@@ -2,17 +2,17 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "modell/Gemeinsam.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
-#include "plattform/zahl.h"
 
 namespace jorv {
 
 namespace {
 
-constexpr int sperre_ms = 5000, letzte_nummer = 999;
+constexpr int sperre_ms = 5000;
 constexpr std::string_view sektion_name = "VERFAHREN-Name";
 
 struct Listensektion {
@@ -27,9 +27,14 @@ constexpr std::array<Listensektion, 6> listensektionen = {{{sektion_name, &Verfa
                                                            {"VERFAHREN-LetztDatum", &Verfahren_Satz::LetztDatum},
                                                            {"VERFAHREN-Antenne", &Verfahren_Satz::Antenne}}};
 
-std::string nummer_text(int n)
+// Ascending; a number without a name is none.
+std::set<std::string> vergebene_nummern(const Profil& einstellungen)
 {
-    return zahl_format_fuell(n, "000", "0");
+    auto namen = einstellungen.schluessel(sektion_name);
+    std::erase_if(namen, [&](const std::string& nummer) {
+        return !ist_Nummer(nummer) || einstellungen.wert(sektion_name, nummer).empty();
+    });
+    return {namen.begin(), namen.end()};
 }
 
 Verfahren_Satz eintrag_lesen(const Profil& einstellungen, const std::string& nummer)
@@ -115,15 +120,16 @@ Fehler Einstellungen_gesperrt::schreiben()
     return Fehler::gesetzt;
 }
 
+bool ist_Nummer(std::string_view text)
+{
+    return text.size() == 3 && text != "000" && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 void AlleVerfahernLaden(Global& g, const Profil& einstellungen)
 {
     g.Verfahren.leeren();
-    if (!einstellungen.hat_sektion(sektion_name)) return;
-    for (int n = 1; n <= letzte_nummer; ++n) {
-        const std::string nummer = nummer_text(n);
-        if (einstellungen.wert(sektion_name, nummer).empty()) continue;
+    for (const auto& nummer : vergebene_nummern(einstellungen))
         if (!eintrag_anfuegen(g, eintrag_lesen(einstellungen, nummer))) return;
-    }
 }
 
 void Verfahrensliste_eintragen(const Global& g, Profil& einstellungen)
@@ -143,9 +149,7 @@ Fehler Verfahrensliste_sichern(Global& g)
 
 void Verfahrensliste_auffrischen(Global& g, const Profil& einstellungen)
 {
-    for (int n = 1; n <= letzte_nummer; ++n) {
-        const std::string nummer = nummer_text(n);
-        if (einstellungen.wert(sektion_name, nummer).empty()) continue;
+    for (const auto& nummer : vergebene_nummern(einstellungen)) {
         const int i = Index_zu_Nummer(g, nummer);
         if (i == 0) {
             if (!eintrag_anfuegen(g, eintrag_lesen(einstellungen, nummer))) return;

@@ -13,6 +13,8 @@
 
 namespace jorv {
 
+/// "001" to "999": the list holds three digits only, any other number would be lost at the next start.
+bool ist_Nummer(std::string_view text);
 /// Reads the project list anew: numbers 001 to 999 in order, gaps allowed. Absent values leave the field empty.
 void AlleVerfahernLaden(Global& g, const Profil& einstellungen);
 

@@ -70,6 +70,13 @@ fuettern() {
     fuzz/lauf.sh "${JORV_FUZZ_SEKUNDEN:-60}"
 }
 
+# Die langen Prüfungen sichern hunderttausendmal: im Speicher, wo der reicht, warten sie auf keine Platte.
+im_speicher_arbeiten() {
+    local frei
+    frei=$(df --output=avail /dev/shm 2>/dev/null | tail -1) || return 0
+    ((${frei:-0} < 4000000)) || export TMPDIR=/dev/shm
+}
+
 pruefen() {
     [[ ${1:-} != --lang ]] || pakete+=("${pakete_lang[@]}")
     einrichten
@@ -81,6 +88,7 @@ pruefen() {
     export JORV_MELDUNGEN=$bau/meldungen
     rm -rf "$JORV_MELDUNGEN"
     mkdir -p "$JORV_MELDUNGEN"
+    [[ ${1:-} != --lang ]] || im_speicher_arbeiten
     ctest --test-dir "$bau" -j "$kerne" --output-on-failure --no-tests=error -LE "$ohne"
     ctest --test-dir "$bau" --output-on-failure --no-tests=error -L schluss
     [[ ${1:-} != --lang ]] || fuettern

@@ -157,7 +157,10 @@ Stoerplatz::Stoerplatz() : m_platz("E")
 
 void Stoerplatz::zuruecksetzen() const
 {
-    for (const auto& eintrag : fs::directory_iterator(host(""))) fs::remove_all(eintrag.path());
+    // A batch outlives the program that was killed, and may write into a folder that is just being removed.
+    constexpr std::chrono::milliseconds pause(20);
+    for (std::error_code fehler; !fs::is_empty(host("")); std::this_thread::sleep_for(pause))
+        for (const auto& eintrag : fs::directory_iterator(host(""))) fs::remove_all(eintrag.path(), fehler);
     spiegeln(m_vorlage, host(""));
 }
 

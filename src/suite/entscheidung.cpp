@@ -14,7 +14,8 @@ constexpr std::size_t EPOCHEN_MINDESTENS = 5;
 constexpr double DAUER_MINDESTENS = 89.0;  // s
 constexpr double FESTE_MINDESTENS = 5.0;   // satellites; four fit any integers
 constexpr double EINIG = 0.030;            // m between a run and its witness
-constexpr double S0_OFFEN = 3.0;           // a float run above it has not modelled the ionosphere
+constexpr double S0_OHNE_L1 = 1.2, S0_OHNE_L1_NETZ = 1.5;
+constexpr double S0_OFFEN = 3.0;  // a float run above it has not modelled the ionosphere
 
 // The last fixed epoch, when it is the last one or lies in the final tenth; else the count of positions.
 std::size_t letzte_feste(const std::vector<Position>& p)
@@ -38,6 +39,12 @@ Annahme annahme_nur_l1(double laenge)
     return {a.verhaeltnis, std::max(a.anteil, 0.80), std::min(a.s0, 1.0)};
 }
 
+Annahme annahme_l1_l2(double laenge, bool netz)
+{
+    const Annahme a = annahme_l1(laenge);
+    return {a.verhaeltnis, a.anteil, std::min(a.s0, netz ? S0_OHNE_L1_NETZ : S0_OHNE_L1)};
+}
+
 std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, bool netz)
 {
     std::vector<Versuch> versuche;
@@ -51,7 +58,8 @@ std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, 
     const Annahme l1 = zwei_frequenzen ? annahme_l1(laenge) : annahme_nur_l1(laenge);
     if (art == Loesungsart::l1 || (art == Loesungsart::automatisch && laenge <= MITTEL)) {
         versuche.push_back({Laufart::l1, l1, "FixedL1", zeuge, nachausgleichen});
-        if (zwei_frequenzen) versuche.push_back({Laufart::l1_l2, l1, "FixedL1", {}, nachausgleichen});
+        if (zwei_frequenzen)
+            versuche.push_back({Laufart::l1_l2, annahme_l1_l2(laenge, netz), "FixedL1", {}, nachausgleichen});
     }
     if (art != Loesungsart::l1 && zwei_frequenzen && !ruhig_zuerst)
         versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});

@@ -40,7 +40,8 @@ void Versuchsreihe::zeile(Laufart art, const Loeserlauf& lauf, const Urteil& urt
     }
     const double verhaeltnis = p[std::min(urteil.epoche, p.size() - 1)].verhaeltnis;
     text += verkettet("Epochen ", p.size(), ", fest ", urteil.fest, u8", Verhältnis "_w, fest(verhaeltnis, 1),
-                      ", Anteil ", fest(urteil.anteil, 2), ", s0 ", fest(urteil.masse.s0, 2), ": ");
+                      ", Anteil ", fest(urteil.anteil, 2), ", Satelliten ", fest(urteil.masse.feste, 1), ", s0 ",
+                      fest(urteil.masse.s0, 2), ": ");
     m_protokoll.zeile(text.append(ausgang));
 }
 
@@ -51,6 +52,7 @@ const Position* Versuchsreihe::bestaetigt(const Versuch& versuch, const Position
     const Urteil seines = urteilen(zeuge.ausgabe, ANNAHME_ZEUGE);
     std::string grund = seines.grund;
     const bool gut = seines.angenommen && einig(position, zeuge.ausgabe.positionen[seines.epoche], grund);
+    if (seines.angenommen && !gut) m_widersprochen = versuch.zeuge;
     zeile(*versuch.zeuge, zeuge, seines,
           verkettet(gut ? u8"bestätigt "_w : u8"bestätigt nicht "_w, laufname(versuch.art), gut ? "" : ", ", grund));
     return gut ? &zeuge.ausgabe.positionen[seines.epoche] : nullptr;
@@ -76,6 +78,7 @@ std::optional<Fund> Versuchsreihe::fest_loesen(const std::vector<Versuch>& versu
 {
     for (const Versuch& versuch : versuche) {
         if (m_haengt) break;
+        if (m_widersprochen == versuch.art) continue;
         const Loeserlauf& dieser = lauf(versuch.art);
         Urteil urteil = urteilen(dieser.ausgabe, versuch.annahme);
         zeile(versuch.art, dieser, urteil, urteil.angenommen ? "angenommen" : urteil.grund);

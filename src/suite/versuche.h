@@ -38,7 +38,8 @@ private:
     Protokoll& m_protokoll;
     std::map<Laufart, Loeserlauf> m_laeufe;
     bool m_version_geprueft = false;
-    bool m_haengt = false;  // the solver reached its time limit: no further run
+    std::optional<Laufart> m_widersprochen;  // said another place than the run that it was to confirm: neither counts
+    bool m_haengt = false;                   // the solver reached its time limit: no further run
 };
 
 }  // namespace jorv::suite

@@ -14,7 +14,8 @@ inline void rechts(std::string& ziel, long zahl, std::size_t breite)
     ziel += text;
 }
 
-inline std::string kopf()
+// With the end time, which else has to be looked for in the data.
+inline std::string kopf(bool mit_ende)
 {
     std::string text;
     const auto zeile = [&text](std::string inhalt, const char* marke) {
@@ -26,16 +27,17 @@ inline std::string kopf()
     zeile("00001               LEIAR25.R4      LEIT", "ANT # / TYPE");
     zeile("     5    C1    L1    L2    P2    S1", "# / TYPES OF OBSERV");
     zeile("  2026     1     1     0     0    0.0000000     GPS", "TIME OF FIRST OBS");
+    if (mit_ende) zeile("  2026     1     1    23    59   59.0000000     GPS", "TIME OF LAST OBS");
     zeile("", "END OF HEADER");
     return text;
 }
 
 // Epochs of 13 satellites at 1 Hz, so that each has a continuation line.
-inline void datei_schreiben(const std::filesystem::path& pfad, long epochen)
+inline void datei_schreiben(const std::filesystem::path& pfad, long epochen, bool mit_ende = false)
 {
     constexpr long satelliten = 13;
     std::ofstream strom(pfad, std::ios::binary);
-    strom << kopf();
+    strom << kopf(mit_ende);
     for (long e = 0; e < epochen; ++e) {
         std::string text = " 26  1  1";
         rechts(text, e / 3600, 3), rechts(text, e / 60 % 60, 3), rechts(text, e % 60, 3);

@@ -1,5 +1,5 @@
 // Our side of the comparison in vergleich.sh: times of single operations, each the best of several.
-//   bench_vergleich datei DATEI EPOCHEN | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER
+//   bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -98,11 +98,13 @@ int sichern(int rover_zahl)
 int main(int anzahl, char** worte)
 {
     const std::string was = anzahl > 2 ? worte[1] : "";
-    if (was == "datei" && anzahl == 4) return messen::datei_schreiben(worte[2], std::atol(worte[3])), 0;
+    if (was == "datei" && anzahl >= 4)
+        return messen::datei_schreiben(worte[2], std::atol(worte[3]), anzahl > 4 && worte[4] == std::string("ende")), 0;
     if (was == "werte") return werte(fs::absolute(worte[2]));
     if (was == "satelliten" || was == "kopf") return aufnehmen(fs::absolute(worte[2]), was == "satelliten");
     if (was == "sichern") return sichern(std::atoi(worte[2]));
-    std::fputs("bench_vergleich datei DATEI EPOCHEN | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER\n",
-               stderr);
+    std::fputs(
+        "bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER\n",
+        stderr);
     return 2;
 }

@@ -50,7 +50,9 @@ mb=$(stat -c %s 55010010.26o)
 awk -v b="$mb" -v ms="$(wert werte <<<"$werte")" \
   'BEGIN { printf "%-44s %9.0f MB/s  limit 500 MB/s%s\n", "all values, speed", b / ms / 1000, (b / ms / 1000 >= 500 ? "" : "  NOT MET") }'
 "$messer" datei 55020010.26o 3600
-fest "header and end time of an hour's file" "$("$messer" kopf 55020010.26o | wert kopf)" 0.1 "bench_vergleich kopf FILE (warm)"
+"$messer" datei 55030010.26o 3600 ende
+fest "header of an hour's file" "$("$messer" kopf 55030010.26o | wert kopf)" 0.1 "bench_vergleich kopf FILE (warm)"
+fest "the same looking for the end time in its data" "$("$messer" kopf 55020010.26o | wert kopf)" 10 "bench_vergleich kopf FILE"
 fest "satellite inventory of an hour at 1 Hz" "$("$messer" satelliten 55020010.26o | wert satelliten)" 10 "bench_vergleich satelliten FILE"
 sichern=$("$messer" sichern 1000)
 zeile "saving 1000 rovers, against the bare safe write" "$(wert sichern <<<"$sichern")" "$(wert roh <<<"$sichern")" "<=3" \

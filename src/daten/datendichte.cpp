@@ -25,9 +25,8 @@ double intervall_von(const std::vector<Epoche>& epochen)
     return static_cast<double>(meist.first) / 1000;
 }
 
-Datendichte abtasten(std::string_view text)
+Datendichte abtasten(Zeilenstrom& strom)
 {
-    Zeilenstrom strom(text);
     const std::int32_t typen = kopf_uebergehen(strom);
     std::vector<Epoche> epochen;
     static_cast<void>(epochen_abtasten(strom, typen, &epochen));
@@ -86,8 +85,9 @@ void Datendichten::lesen(Global& g, const std::vector<std::string>& namen)
     for (auto& arbeit : offen) {
         if (warten && g.oberflaeche->ereignisse()) break;
         std::error_code fehler;
-        const Abbild abbild = g.dateien.abbilden(arbeit.kennung.Pfad, fehler);
-        if (!fehler) m_dateien[*arbeit.name] = {arbeit.kennung, abtasten(abbild.text())};
+        Zeilenstrom strom(g.dateien.stroemen(arbeit.kennung.Pfad, fehler));
+        Datendichte dichte = abtasten(strom);
+        if (!fehler && !strom.fehler()) m_dateien[*arbeit.name] = {arbeit.kennung, std::move(dichte)};
         gelesen += arbeit.kennung.Groesse;
         if (warten)
             g.oberflaeche->fortschritt_setzen(100.0 * static_cast<double>(gelesen) / static_cast<double>(bytes));

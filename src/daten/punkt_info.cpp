@@ -37,9 +37,10 @@ const Artworte& worte_von(Punktart art)
 
 std::optional<Rinexkopf> kopf_lesen(Global& g, const std::string& name)
 {
-    const auto datei = beobachtungsdatei_oeffnen(g, name, "Die Beobachtungsdatei:");
+    auto datei = beobachtungsdatei_oeffnen(g, name, "Die Beobachtungsdatei:");
     if (!datei) return std::nullopt;
-    auto kopf = rinexkopf_lesen(g, datei->abbild.text(), name);
+    auto kopf = rinexkopf_lesen(g, datei->strom, name);
+    if (lesefehler_melden(g, *datei)) return std::nullopt;
     if (kopf && kopf->Satelliten) g.abtastung = Abtastung{datei->kennung, std::move(*kopf->Satelliten)};
     return kopf;
 }

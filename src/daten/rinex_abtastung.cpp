@@ -18,6 +18,7 @@ namespace jorv {
 namespace {
 
 constexpr std::size_t spalte_marke = 61, spalte_zustand = 27, spalte_anzahl = 30, spalte_satelliten = 33;
+constexpr std::size_t erstes_stueck = std::size_t{16} << 10;  // holds a header
 constexpr std::int32_t satelliten_je_zeile = 12;
 constexpr int max_je_epoche = 70;
 
@@ -102,11 +103,11 @@ public:
         if (ausstehend > 0) {
             --ausstehend;
         } else if (m_sucher.ist_epoche(zeile)) {
-            letzte = zeile;
+            letzte = zeile;  // a copy: a file's lines don't stay
             ausstehend = std::max<std::int64_t>(m_je_satellit * satelliten_zahl(zeile), 0);
         }
     }
-    std::string_view letzte;
+    std::string letzte;
     std::int64_t ausstehend = 0;  // lines that it doesn't look at
 
 private:
@@ -177,21 +178,54 @@ private:
     std::bitset<3 * 256 * 256> m_bekannt;  // whole three-character fields seen before
 };
 
+void gestoert_melden(Global& g, const std::string& pfad)
+{
+    stop_melden(g, datei_meldung("Lesefehler in der Datei:", pfad,
+                                 verkettet("\n", u8"Datei überprüfen und ggf. neu versuchen!"_w)));
+}
+
 }  // namespace
+
+Zeilenstrom::Zeilenstrom(Dateistrom datei, std::size_t stueck)
+    : m_datei(std::move(datei)), m_stueck(stueck), m_puffer(std::min(stueck, erstes_stueck))
+{
+    m_stelle = m_ende = m_puffer.data();
+}
+
+// Brings what is left in memory to the front and the file's next bytes behind it; false at the end of the file.
+bool Zeilenstrom::nachladen()
+{
+    const auto rest = static_cast<std::size_t>(m_ende - m_stelle);
+    if (m_puffer.empty()) return false;
+    std::memmove(m_puffer.data(), m_stelle, rest);
+    if (m_nummer > 0 && m_puffer.size() < m_stueck) m_puffer.resize(m_stueck);
+    if (rest == m_puffer.size()) m_puffer.resize(std::max(2 * m_puffer.size(), m_stueck));
+    const std::size_t neu = m_datei.lesen(m_puffer.data() + rest, m_puffer.size() - rest);
+    m_stelle = m_puffer.data();
+    m_ende = m_stelle + rest + neu;
+    return neu > 0;
+}
 
 std::optional<std::string_view> Zeilenstrom::naechste()
 {
-    if (m_stelle == m_ende) return std::nullopt;
-    const auto rest = static_cast<std::size_t>(m_ende - m_stelle);
-    const auto* umbruch = static_cast<const char*>(std::memchr(m_stelle, '\n', rest));
-    std::string_view zeile(m_stelle, umbruch ? static_cast<std::size_t>(umbruch - m_stelle) : rest);
+    const char* umbruch = nullptr;
+    for (std::size_t gesucht = 0;;) {
+        const auto rest = static_cast<std::size_t>(m_ende - m_stelle);
+        if (rest > gesucht) umbruch = static_cast<const char*>(std::memchr(m_stelle + gesucht, '\n', rest - gesucht));
+        gesucht = rest;
+        if (umbruch || !nachladen()) break;
+    }
+    // What a failed read has cut off is no line.
+    if (m_stelle == m_ende || (!umbruch && m_datei.fehler())) return std::nullopt;
+    std::string_view zeile(m_stelle, static_cast<std::size_t>((umbruch ? umbruch : m_ende) - m_stelle));
     m_stelle = umbruch ? umbruch + 1 : m_ende;
     ++m_nummer;
     if (!zeile.empty() && zeile.back() == '\r') zeile.remove_suffix(1);
     return zeile;
 }
 
-void Zeilenstrom::ueberspringen(std::int64_t anzahl)
+// As far as the lines' ends are in memory; `anzahl` becomes what is left.
+void Zeilenstrom::vorhandene_ueberspringen(std::int64_t& anzahl)
 {
     // Whole blocks by counting their line ends, which the compiler turns into vector code; the byte behind a block must
     // be there, so that a last line without an end is still met below.
@@ -207,8 +241,21 @@ void Zeilenstrom::ueberspringen(std::int64_t anzahl)
     for (; anzahl > 0 && m_stelle != m_ende; --anzahl) {
         const auto* umbruch =
             static_cast<const char*>(std::memchr(m_stelle, '\n', static_cast<std::size_t>(m_ende - m_stelle)));
-        m_stelle = umbruch ? umbruch + 1 : m_ende;
+        if (!umbruch) return;
+        m_stelle = umbruch + 1;
         ++m_nummer;
+    }
+}
+
+void Zeilenstrom::ueberspringen(std::int64_t anzahl)
+{
+    while (anzahl > 0) {
+        vorhandene_ueberspringen(anzahl);
+        if (anzahl <= 0 || nachladen()) continue;
+        // The last line may lack its end.
+        if (m_stelle != m_ende) ++m_nummer;
+        m_stelle = m_ende;
+        return;
     }
 }
 
@@ -247,14 +294,14 @@ Epochen epochen_abtasten(Zeilenstrom& strom, std::int32_t typen, std::vector<Epo
         endzeit.ausstehend -= ungesehen;
         satelliten.ausstehend -= ungesehen;
     }
-    return {endzeit.letzte, std::move(satelliten.satelliten)};
+    return {std::move(endzeit.letzte), std::move(satelliten.satelliten)};
 }
 
 std::optional<Beobachtungsdatei> beobachtungsdatei_oeffnen(Global& g, const std::string& name, std::string_view kopf)
 {
     const std::string pfad = ist_dos_pfad(name) ? name : im_Verfahren(g, name);
     std::error_code fehler;
-    Beobachtungsdatei datei{g.dateien.abbilden(pfad, fehler), {}};
+    Dateistrom strom = g.dateien.stroemen(pfad, fehler);
     switch (dateistand(fehler)) {
         case Dateistand::gut:
             break;
@@ -262,12 +309,19 @@ std::optional<Beobachtungsdatei> beobachtungsdatei_oeffnen(Global& g, const std:
             stop_melden(g, datei_meldung(kopf, pfad, u8"konnte nicht geöffnet werden!"_w));
             return std::nullopt;
         case Dateistand::gestoert:
-            stop_melden(g, datei_meldung("Lesefehler in der Datei:", pfad,
-                                         verkettet("\n", u8"Datei überprüfen und ggf. neu versuchen!"_w)));
+            gestoert_melden(g, pfad);
             return std::nullopt;
     }
-    datei.kennung = {pfad, datei.abbild.text().size(), std::filesystem::last_write_time(g.dateien.host(pfad), fehler)};
-    return datei;
+    const auto ort = g.dateien.host(pfad);
+    Dateikennung kennung{pfad, std::filesystem::file_size(ort, fehler), std::filesystem::last_write_time(ort, fehler)};
+    return Beobachtungsdatei{Zeilenstrom(std::move(strom)), std::move(kennung)};
+}
+
+bool lesefehler_melden(Global& g, const Beobachtungsdatei& datei)
+{
+    if (!datei.strom.fehler()) return false;
+    gestoert_melden(g, datei.kennung.Pfad);
+    return true;
 }
 
 }  // namespace jorv

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <utility>
 
-#include "daten/rinex_abtastung.h"
 #include "daten/wortzahl.h"
 #include "modell/Meldungen.h"
 #include "plattform/text.h"
@@ -80,10 +79,9 @@ bool endzeit_aus_epoche(Global& g, std::string_view zeile, const Leseort& ort, R
 
 }  // namespace
 
-std::optional<Rinexkopf> rinexkopf_lesen(Global& g, std::string_view text, std::string_view name)
+std::optional<Rinexkopf> rinexkopf_lesen(Global& g, Zeilenstrom& strom, std::string_view name)
 {
     Rinexkopf kopf;
-    Zeilenstrom strom(text);
     while (!kopf.abgeschlossen) {
         const auto zeile = strom.naechste();
         if (!zeile) break;
@@ -91,6 +89,7 @@ std::optional<Rinexkopf> rinexkopf_lesen(Global& g, std::string_view text, std::
     }
     if (kopf.abgeschlossen && kopf.Ende[0] != 0) return kopf;
     auto epochen = epochen_abtasten(strom, kopf.Typen);
+    if (strom.fehler()) return std::nullopt;
     if (!endzeit_aus_epoche(g, epochen.letzte_Zeile, {name, strom.nummer()}, kopf)) return std::nullopt;
     if (kopf.abgeschlossen) kopf.Satelliten = std::move(epochen.Satelliten);
     return kopf;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "daten/rinex_abtastung.h"
 #include "modell/Global.h"
 
 namespace jorv {
@@ -25,8 +26,8 @@ struct Rinexkopf {
     std::optional<std::vector<std::string>> Satelliten;
 };
 
-/// Reads the header of the text of a file; without an end time in the header the data too. `name` is for the messages.
-/// Nothing after a message.
-std::optional<Rinexkopf> rinexkopf_lesen(Global& g, std::string_view text, std::string_view name);
+/// Reads the header; without an end time in the header the data too. `name` is for the messages. Nothing after a
+/// message, and when the stream's file has failed, which is the caller's to tell.
+std::optional<Rinexkopf> rinexkopf_lesen(Global& g, Zeilenstrom& strom, std::string_view name);
 
 }  // namespace jorv

@@ -9,9 +9,9 @@ namespace jorv {
 Fehler rinex_position_lesen(Global& g, const std::string& pfad_oder_name, double& X, double& Y, double& Z,
                             std::string& Markernummer)
 {
-    const auto datei = beobachtungsdatei_oeffnen(g, pfad_oder_name, "Die RINEX-Datei:");
+    auto datei = beobachtungsdatei_oeffnen(g, pfad_oder_name, "Die RINEX-Datei:");
     if (!datei) return Fehler::gesetzt;
-    Zeilenstrom strom(datei->abbild.text());
+    Zeilenstrom& strom = datei->strom;
     while (const auto zeile = strom.naechste()) {
         if (ist_kopfzeile(*zeile, "COMMENT")) continue;
         if (ist_kopfzeile(*zeile, "APPROX POSITION XYZ")) {
@@ -22,7 +22,7 @@ Fehler rinex_position_lesen(Global& g, const std::string& pfad_oder_name, double
             break;
         }
     }
-    return Fehler::keiner;
+    return lesefehler_melden(g, *datei) ? Fehler::gesetzt : Fehler::keiner;
 }
 
 }  // namespace jorv

@@ -25,9 +25,8 @@ void einsortieren(ROVER_Settings_Satz& satz, const std::string& satellit)
     ++satz.AnzahlDelSatellite;
 }
 
-std::vector<std::string> inventar(std::string_view text)
+std::vector<std::string> inventar(Zeilenstrom& strom)
 {
-    Zeilenstrom strom(text);
     const std::int32_t typen = kopf_uebergehen(strom);
     return epochen_abtasten(strom, typen).Satelliten;
 }
@@ -37,13 +36,14 @@ std::vector<std::string> inventar(std::string_view text)
 Fehler satelliten_lesen(Global& g, const std::string& name)
 {
     const auto bekannt = std::exchange(g.abtastung, std::nullopt);
-    const auto datei = beobachtungsdatei_oeffnen(g, name, "Die Beobachtungsdatei:");
+    auto datei = beobachtungsdatei_oeffnen(g, name, "Die Beobachtungsdatei:");
     if (!datei) return Fehler::gesetzt;
     const bool schon_gelesen = bekannt && bekannt->Datei == datei->kennung;
     const int i = Index_Settings(g, name);
     if (i == 0) return Fehler::keiner;
-    for (const auto& satellit : schon_gelesen ? bekannt->Satelliten : inventar(datei->abbild.text()))
-        einsortieren(g.ROVER_Settings[i], satellit);
+    const auto satelliten = schon_gelesen ? bekannt->Satelliten : inventar(datei->strom);
+    if (lesefehler_melden(g, *datei)) return Fehler::gesetzt;
+    for (const auto& satellit : satelliten) einsortieren(g.ROVER_Settings[i], satellit);
     return Fehler::keiner;
 }
 

@@ -8,6 +8,7 @@
 
 #include "plattform/text.h"
 #include "plattform/umgebung.h"
+#include "plattform/wiederholen.h"
 
 namespace jorv {
 
@@ -35,15 +36,6 @@ std::string utf8(const fs::path& pfad)
 fs::path aus_utf8(const std::string& text)
 {
     return fs::path(reinterpret_cast<const char8_t*>(text.c_str()));
-}
-
-// A call that a signal has interrupted is made again.
-template <typename Aufruf>
-auto ungestoert(Aufruf aufruf)
-{
-    auto ergebnis = aufruf();
-    while (ergebnis < 0 && errno == EINTR) ergebnis = aufruf();
-    return ergebnis;
 }
 
 fs::path link_ziel(const fs::path& pfad)
@@ -145,6 +137,14 @@ Gelesen Dateisystem::lesen_stufenweise(std::string_view pfad, std::size_t hoechs
     }
     errno = fehlernummer;
     return gelesen;
+}
+
+Dateistrom Dateisystem::stroemen(std::string_view pfad, std::error_code& fehler) const
+{
+    const auto ort = m_laufwerke.host(pfad);
+    if (ort) return Dateistrom(*m_aufrufe, *ort, fehler);
+    fehler = kein_laufwerk();
+    return {};
 }
 
 Abbild Dateisystem::abbilden(std::string_view pfad, std::error_code& fehler) const

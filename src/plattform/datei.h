@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "plattform/abbild.h"
+#include "plattform/dateistrom.h"
 #include "plattform/laufwerke.h"
 #include "plattform/systemaufrufe.h"
 
@@ -64,6 +65,8 @@ public:
     Gelesen lesen_stufenweise(std::string_view pfad, std::size_t hoechstens = std::string::npos) const;
     /// The first bytes of a file, as many as there are.
     std::optional<std::string> anfang_lesen(std::string_view pfad, std::size_t anzahl) const;
+    /// The file, to be read from its beginning in pieces.
+    Dateistrom stroemen(std::string_view pfad, std::error_code& fehler) const;
     /// The file mapped into memory.
     Abbild abbilden(std::string_view pfad, std::error_code& fehler) const;
 

@@ -129,14 +129,50 @@ Soll langsam(const std::string& text, int typen)
     return soll;
 }
 
-void vergleichen(const std::string& text, int typen)
+void vergleichen(const Soll& soll, const std::string& text, int typen, Zeilenstrom strom)
 {
-    const Soll soll = langsam(text, typen);
-    Zeilenstrom strom(text);
     const Epochen ist = epochen_abtasten(strom, typen);
     ASSERT_EQ(ist.letzte_Zeile, soll.letzte) << "types " << typen << "\n" << text;
     ASSERT_EQ(strom.nummer(), soll.zeilen) << "types " << typen << "\n" << text;
     ASSERT_EQ(ist.Satelliten, soll.satelliten) << "types " << typen << "\n" << text;
+}
+
+// A file whose bytes come out of a text, few at a time.
+class Haeppchen {
+public:
+    Dateistrom oeffnen(std::string_view text, std::size_t hoechstens)
+    {
+        m_rest = text;
+        m_hoechstens = hoechstens;
+        std::error_code fehler;
+        return Dateistrom(m_tafel, m_ordner.host() / "leer", fehler);
+    }
+    Haeppchen()
+    {
+        schreiben(m_ordner.host() / "leer", "");
+        m_tafel.lesen = [](int, void* bytes, std::size_t anzahl) {
+            const auto stueck = m_rest.substr(0, std::min(anzahl, m_hoechstens));
+            std::copy(stueck.begin(), stueck.end(), static_cast<char*>(bytes));
+            m_rest.remove_prefix(stueck.size());
+            return static_cast<long>(stueck.size());
+        };
+    }
+
+private:
+    static inline std::string_view m_rest;
+    static inline std::size_t m_hoechstens = 0;
+    Arbeitsordner m_ordner;
+    Systemaufrufe m_tafel = Systemaufrufe::echte();
+};
+
+// From memory and from a file in pieces of every kind, so that each line is cut somewhere.
+void vergleichen(Haeppchen& datei, const std::string& text, int typen)
+{
+    const Soll soll = langsam(text, typen);
+    vergleichen(soll, text, typen, Zeilenstrom(text));
+    const std::array<std::size_t, 5> laengen = {1, 3, 81, 150, 4096};
+    const std::size_t wahl = text.size();
+    vergleichen(soll, text, typen, Zeilenstrom(datei.oeffnen(text, laengen[wahl % 5]), laengen[wahl / 5 % 5]));
 }
 
 // Draws data sections: mostly right epochs, with everything in between that files have.
@@ -225,30 +261,33 @@ private:
 
 TEST(Abtastung, GleichtDemLangsamenLeserAufVerdorbenenDateien)
 {
+    Haeppchen datei;
     constexpr std::array typen = {5, 5, 1, 10, 11, 0, -3, -9, 999999};
     for (unsigned keim = 1; keim <= 20000; ++keim) {
         Generator generator(keim);
         const int n = typen[static_cast<std::size_t>(generator.bis(static_cast<int>(typen.size())))];
-        vergleichen(generator.datensatz(std::clamp(n, 0, 20)), n);
+        vergleichen(datei, generator.datensatz(std::clamp(n, 0, 20)), n);
         if (HasFatalFailure()) FAIL() << "seed " << keim;
     }
 }
 
 TEST(Abtastung, GleichtDemLangsamenLeserAnDenRaendern)
 {
+    Haeppchen datei;
     for (const char* text :
          {"", "\n", "\r\n", " 16  5  1  8  0  0.0000000  0999G01\n", " 16  5  1  8  0  0.0000000  0 13G01",
           " 16  5  1  8  0  0.0000000  09E9G01\n\n\n", " 16  5  1  8  0  0.0000000  0 -1G01\nx\n",
           " 16  5  1  8  0  0.0000000  0  2G", " 16  5  1  8  0  0.0000000  0  2G01G"})
-        for (const int typen : {0, 1, 6, -7}) vergleichen(text, typen);
+        for (const int typen : {0, 1, 6, -7}) vergleichen(datei, text, typen);
 }
 
 TEST(Lang_Abtastung, GleichtDemLangsamenLeserAufVielenDateien)
 {
+    Haeppchen datei;
     for (unsigned keim = 100000; keim < 600000; ++keim) {
         Generator generator(keim);
         const int n = generator.bis(12);
-        vergleichen(generator.datensatz(n), n);
+        vergleichen(datei, generator.datensatz(n), n);
         if (HasFatalFailure()) FAIL() << "seed " << keim;
     }
 }

@@ -11,7 +11,6 @@
 #include "daten/punkt_info.h"
 #include "daten/satelliten.h"
 #include "hilfen/Projekt.h"
-#include "plattform/abbild.h"
 #include "plattform/kalender.h"
 #include "plattform/stumme_oberflaeche.h"
 #include "projekt/projektdatei_lesen.h"
@@ -41,10 +40,10 @@ int werte(const fs::path& datei)
     std::size_t anzahl = 0;
     const int status = beste("werte", 5, [&] {
         std::error_code fehler;
-        const Abbild bild(datei, fehler);
+        Dateistrom strom(Systemaufrufe::echte(), datei, fehler);
         std::string grund;
-        const auto gelesen =
-            suite::beobachtung_lesen(bild.text(), suite::Umfang::alles, grund, {}, suite::Systeme::gps_glonass);
+        const auto gelesen = suite::beobachtung_lesen({std::move(strom), fs::file_size(datei)}, suite::Umfang::alles,
+                                                      grund, {}, suite::Systeme::gps_glonass);
         if (!gelesen) return false;
         anzahl = 0;
         for (const auto& m : gelesen->messungen)

@@ -38,6 +38,16 @@ Abbild Arbeitsordner::lesen(std::string_view name, std::error_code& fehler) cons
     return m_dateien.abbilden(pfad(name), fehler);
 }
 
+Dateistrom Arbeitsordner::stroemen(std::string_view name, std::error_code& fehler) const
+{
+    return m_dateien.stroemen(pfad(name), fehler);
+}
+
+std::uint64_t Arbeitsordner::groesse(std::string_view name) const
+{
+    return m_dateien.groesse(pfad(name)).value_or(0);
+}
+
 bool Arbeitsordner::schreiben(std::string_view name, std::string_view bytes) const
 {
     return !m_dateien.schreiben(pfad(name), bytes, Dauer::fluechtig);

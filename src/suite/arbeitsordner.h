@@ -26,6 +26,9 @@ public:
 
     /// The file in memory; `fehler` tells why not.
     Abbild lesen(std::string_view name, std::error_code& fehler) const;
+    /// The file, to be read in pieces.
+    Dateistrom stroemen(std::string_view name, std::error_code& fehler) const;
+    std::uint64_t groesse(std::string_view name) const;  ///< bytes; 0 when there is no such file
 
     [[nodiscard]] bool schreiben(std::string_view name, std::string_view bytes) const;
     /// Removes the file; true when it is gone.

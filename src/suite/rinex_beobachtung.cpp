@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <utility>
 
 #include "plattform/speicher.h"
 #include "plattform/text.h"
@@ -54,16 +56,30 @@ bool festwert(const char* feld, double& wert)
 class Leser {
 public:
     Leser(std::string_view text, Umfang umfang, const std::optional<Zeitspanne>& fenster, Systeme systeme)
-        : m_rest(text), m_umfang(umfang), m_fenster(fenster), m_glonass(systeme == Systeme::gps_glonass)
+        : m_rest(text),
+          m_bytes(text.size()),
+          m_umfang(umfang),
+          m_fenster(fenster),
+          m_glonass(systeme == Systeme::gps_glonass)
     {
+    }
+    Leser(Beobachtungsstrom strom, Umfang umfang, const std::optional<Zeitspanne>& fenster, Systeme systeme)
+        : Leser(std::string_view(), umfang, fenster, systeme)
+    {
+        m_bytes = strom.groesse;
+        m_datei = std::move(strom.datei);
+        m_puffer.resize(std::min(strom.stueck, strom.groesse + 1));
+        m_rest = {m_puffer.data(), 0};
     }
 
     bool kopf(std::string& grund);
     void daten();
     RinexBeobachtung ergebnis() { return std::move(m_ziel); }
+    bool gestoert() const { return static_cast<bool>(m_datei.fehler()); }
 
 private:
     bool zeile(std::string_view& ziel);
+    bool nachladen();
     void kopfzeile(std::string_view z);
     void arten_lesen(std::string_view z);
     std::optional<Epochenzeile> epochenzeile(std::string_view z) const;
@@ -75,7 +91,11 @@ private:
     void wert_lesen(std::string_view z, std::size_t platz, std::size_t art, Messung& ziel) const;
     void hinweise_sammeln();
 
-    std::string_view m_rest;
+    std::string_view m_rest;         // of the text, or of what is in memory of the file
+    const char* m_umkehr = nullptr;  // where the reading goes on when the present epoch turns out damaged
+    std::size_t m_bytes;
+    Dateistrom m_datei;
+    std::vector<char> m_puffer;
     Umfang m_umfang;
     std::optional<Zeitspanne> m_fenster;
     bool m_glonass;
@@ -88,12 +108,32 @@ private:
     bool m_abgebrochen = false;
 };
 
+// Brings what is still needed to the front and the file's next bytes behind it; false at the end of the file.
+bool Leser::nachladen()
+{
+    if (m_puffer.empty()) return false;
+    const char* const anfang = m_umkehr ? m_umkehr : m_rest.data();
+    const auto gelesen = static_cast<std::size_t>(m_rest.data() - anfang), bleibt = gelesen + m_rest.size();
+    std::memmove(m_puffer.data(), anfang, bleibt);
+    if (bleibt == m_puffer.size()) m_puffer.resize(2 * m_puffer.size());
+    const std::size_t neu = m_datei.lesen(m_puffer.data() + bleibt, m_puffer.size() - bleibt);
+    if (m_umkehr) m_umkehr = m_puffer.data();
+    m_rest = {m_puffer.data() + gelesen, bleibt - gelesen + neu};
+    return neu > 0;
+}
+
+// The line stands until the next one is asked for.
 bool Leser::zeile(std::string_view& ziel)
 {
+    auto ende = m_rest.find('\n');
+    while (ende == std::string_view::npos) {
+        const std::size_t gesucht = m_rest.size();
+        if (!nachladen()) break;
+        ende = m_rest.find('\n', gesucht);
+    }
     if (m_rest.empty()) return false;
-    const auto ende = m_rest.find('\n');
     ziel = m_rest.substr(0, ende);
-    m_rest = ende == std::string_view::npos ? std::string_view{} : m_rest.substr(ende + 1);
+    m_rest.remove_prefix(ende == std::string_view::npos ? m_rest.size() : ende + 1);
     if (!ziel.empty() && ziel.back() == '\r') ziel.remove_suffix(1);
     return true;
 }
@@ -188,7 +228,7 @@ void Leser::daten()
 {
     // About one observation a line of its columns; growing step by step would copy a large file's values many times.
     if (m_umfang == Umfang::alles) {
-        m_ziel.messungen.reserve(m_rest.size() / (16 * m_spalten.size()));
+        m_ziel.messungen.reserve(m_bytes / (16 * m_spalten.size()));
         grosse_seiten(m_ziel.messungen.data(), m_ziel.messungen.capacity() * sizeof(Messung));
         m_ziel.epochen.reserve(m_ziel.messungen.capacity() / SATELLITEN_JE_ZEILE);
     }
@@ -199,11 +239,12 @@ void Leser::daten()
             m_unlesbar += spalten(z, 0, z.size()).empty() ? 0 : 1;
             continue;
         }
-        const std::string_view vorher = m_rest;
+        m_umkehr = m_rest.data();
         const bool gut = e->kennung <= 1 || e->kennung == 6 ? epoche(z, *e) : ereignis(*e);
+        const char* const umkehr = std::exchange(m_umkehr, nullptr);
         if (gut) continue;
         ++m_unlesbar;
-        m_rest = vorher;
+        m_rest = {umkehr, static_cast<std::size_t>(m_rest.data() + m_rest.size() - umkehr)};
     }
     hinweise_sammeln();
 }
@@ -274,6 +315,7 @@ bool Leser::ueberspringen(std::size_t zeilen)
 
 bool Leser::epoche(std::string_view z, const Epochenzeile& e)
 {
+    std::string uhr(spalten(z, 68, 12));
     if (!satelliten_lesen(z, e.anzahl)) return false;
     const std::size_t erste = m_ziel.messungen.size();
     const bool doppelt = !m_ziel.epochen.empty() && e.zeit <= m_ziel.epochen.back().zeit;
@@ -299,8 +341,7 @@ bool Leser::epoche(std::string_view z, const Epochenzeile& e)
     }
     if (e.kennung <= 1 && doppelt) ++m_rueckwaerts;
     if (!benutzt || m_satelliten.empty()) return true;
-    m_ziel.epochen.push_back(
-        {e.zeit, e.kennung, erste, m_ziel.messungen.size() - erste, std::string(spalten(z, 68, 12))});
+    m_ziel.epochen.push_back({e.zeit, e.kennung, erste, m_ziel.messungen.size() - erste, std::move(uhr)});
     // What comes behind the window is not wanted, and a step back in time would be passed over.
     m_abgebrochen = m_fenster && m_fenster->bis < e.zeit;
     return true;
@@ -311,6 +352,14 @@ void Leser::hinweise_sammeln()
     if (m_unlesbar > 0) m_ziel.hinweise.push_back(verkettet(m_unlesbar, u8" unlesbare Zeilen übergangen."_w));
     if (m_rueckwaerts > 0)
         m_ziel.hinweise.push_back(verkettet(m_rueckwaerts, u8" Epochen mit rückwärts laufender Zeit übergangen."_w));
+}
+
+std::optional<RinexBeobachtung> lesen(Leser leser, Umfang umfang, std::string& grund)
+{
+    const bool gut = leser.kopf(grund);
+    if (gut && umfang != Umfang::kopf) leser.daten();
+    if (leser.gestoert()) grund = "konnte nicht fehlerfrei gelesen werden";
+    return gut && !leser.gestoert() ? std::optional(leser.ergebnis()) : std::nullopt;
 }
 
 }  // namespace
@@ -328,10 +377,13 @@ double RinexBeobachtung::intervall() const
 std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund,
                                                   const std::optional<Zeitspanne>& fenster, Systeme systeme)
 {
-    Leser leser(text, umfang, fenster, systeme);
-    if (!leser.kopf(grund)) return {};
-    if (umfang != Umfang::kopf) leser.daten();
-    return leser.ergebnis();
+    return lesen(Leser(text, umfang, fenster, systeme), umfang, grund);
+}
+
+std::optional<RinexBeobachtung> beobachtung_lesen(Beobachtungsstrom strom, Umfang umfang, std::string& grund,
+                                                  const std::optional<Zeitspanne>& fenster, Systeme systeme)
+{
+    return lesen(Leser(std::move(strom), umfang, fenster, systeme), umfang, grund);
 }
 
 }  // namespace jorv::suite

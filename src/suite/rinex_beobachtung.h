@@ -1,6 +1,6 @@
 #pragma once
 // RINEX 2 observation files: header, epochs and the observations of GPS and GLONASS of code, phase and signal strength
-// on L1 and L2. Works on the whole text of a file in memory. Events, headers inside the data, power failures,
+// on L1 and L2, out of a text or of a file read in pieces. Events, headers inside the data, power failures,
 // satellites on continuation lines and damaged epochs are met in real files and passed over with a remark.
 
 #include <array>
@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "plattform/dateistrom.h"
 #include "suite/geodaesie.h"
 #include "suite/gps_zeit.h"
 
@@ -69,6 +70,17 @@ struct RinexBeobachtung {
 /// With a window all epochs are listed, but only those inside it hold observations.
 /// A change to a moving antenna or to another site after data have been read ends the reading there, with a remark.
 std::optional<RinexBeobachtung> beobachtung_lesen(std::string_view text, Umfang umfang, std::string& grund,
+                                                  const std::optional<Zeitspanne>& fenster = {},
+                                                  Systeme systeme = Systeme::gps);
+
+/// A file of about `groesse` bytes, which is read in pieces of `stueck` bytes.
+struct Beobachtungsstrom {
+    Dateistrom datei;
+    std::size_t groesse = 0;
+    std::size_t stueck = std::size_t{256} << 10;
+};
+/// The same out of a file. A failed read is a reason too.
+std::optional<RinexBeobachtung> beobachtung_lesen(Beobachtungsstrom strom, Umfang umfang, std::string& grund,
                                                   const std::optional<Zeitspanne>& fenster = {},
                                                   Systeme systeme = Systeme::gps);
 

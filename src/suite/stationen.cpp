@@ -69,13 +69,13 @@ std::optional<Beobachtungsdatei> datei_lesen(const Arbeitsordner& ordner, std::s
                                              Systeme systeme)
 {
     std::error_code fehler;
-    const Abbild abbild = ordner.lesen(name, fehler);
+    Beobachtungsstrom strom{ordner.stroemen(name, fehler), ordner.groesse(name)};
     if (fehler) {
         protokoll.fehler(verkettet("Die Datei ", name, u8" konnte nicht geöffnet werden!"_w));
         return {};
     }
     std::string grund;
-    auto daten = beobachtung_lesen(abbild.text(), umfang, grund, fenster, systeme);
+    auto daten = beobachtung_lesen(std::move(strom), umfang, grund, fenster, systeme);
     if (!daten) {
         protokoll.fehler(verkettet("Die Datei ", name, " ", grund, "!"));
         return {};

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "daten/rinex_abtastung.h"
+#include "hilfen/Haeppchen.h"
 #include "plattform/zahl.h"
 #include "proben.h"
 
@@ -136,34 +137,6 @@ void vergleichen(const Soll& soll, const std::string& text, int typen, Zeilenstr
     ASSERT_EQ(strom.nummer(), soll.zeilen) << "types " << typen << "\n" << text;
     ASSERT_EQ(ist.Satelliten, soll.satelliten) << "types " << typen << "\n" << text;
 }
-
-// A file whose bytes come out of a text, few at a time.
-class Haeppchen {
-public:
-    Dateistrom oeffnen(std::string_view text, std::size_t hoechstens)
-    {
-        m_rest = text;
-        m_hoechstens = hoechstens;
-        std::error_code fehler;
-        return Dateistrom(m_tafel, m_ordner.host() / "leer", fehler);
-    }
-    Haeppchen()
-    {
-        schreiben(m_ordner.host() / "leer", "");
-        m_tafel.lesen = [](int, void* bytes, std::size_t anzahl) {
-            const auto stueck = m_rest.substr(0, std::min(anzahl, m_hoechstens));
-            std::copy(stueck.begin(), stueck.end(), static_cast<char*>(bytes));
-            m_rest.remove_prefix(stueck.size());
-            return static_cast<long>(stueck.size());
-        };
-    }
-
-private:
-    static inline std::string_view m_rest;
-    static inline std::size_t m_hoechstens = 0;
-    Arbeitsordner m_ordner;
-    Systemaufrufe m_tafel = Systemaufrufe::echte();
-};
 
 // From memory and from a file in pieces of every kind, so that each line is cut somewhere.
 void vergleichen(Haeppchen& datei, const std::string& text, int typen)

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
 #include <charconv>
 #include <random>
+#include <sstream>
 
+#include "hilfen/Haeppchen.h"
 #include "suite/Pruefdaten.h"
 #include "suite/rinex_navigation.h"
 #include "suite/rinex_schreiben.h"
@@ -15,9 +18,40 @@ namespace jorv::suite {
 
 namespace {
 
+// All that was read, as a text.
+std::string bild(const RinexBeobachtung& b)
+{
+    std::ostringstream text;
+    text.precision(17);
+    text << b.kopf.marke << b.kopf.empfaenger << b.kopf.antennennummer << b.kopf.ort.x << '\n';
+    for (const auto& e : b.epochen) {
+        text << e.zeit.sekunde << ' ' << e.kennung << ' ' << e.uhr << '\n';
+        for (std::size_t i = e.erste; i < e.erste + e.anzahl; ++i) {
+            const Messung& m = b.messungen.at(i);
+            text << m.satellit;
+            for (std::size_t art = 0; art < ARTEN; ++art)
+                text << ' ' << m.wert[art] << m.schlupf[art] << m.staerke[art];
+            text << '\n';
+        }
+    }
+    for (const auto& hinweis : b.hinweise) text << hinweis << '\n';
+    return text.str();
+}
+
 RinexBeobachtung lesen(const std::string& text, std::string& grund, Umfang umfang = Umfang::alles)
 {
-    return beobachtung_lesen(text, umfang, grund).value_or(RinexBeobachtung{});
+    auto daten = beobachtung_lesen(text, umfang, grund).value_or(RinexBeobachtung{});
+    // The same out of a file in pieces, so that each line is cut somewhere.
+    hilfen::Haeppchen datei;
+    const std::array<std::size_t, 5> laengen = {1, 3, 81, 150, 4096};
+    for (const std::size_t stueck : laengen) {
+        std::string warum;
+        Beobachtungsstrom strom{datei.oeffnen(text, laengen[text.size() % laengen.size()]), text.size(), stueck};
+        const auto in_stuecken = beobachtung_lesen(std::move(strom), umfang, warum).value_or(RinexBeobachtung{});
+        EXPECT_EQ(warum, grund);
+        EXPECT_EQ(bild(in_stuecken), bild(daten)) << "pieces of " << stueck;
+    }
+    return daten;
 }
 
 std::string kopf(std::string_view arten = "     2    C1    L1")

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "plattform/zahl.h"
 
 namespace jorv::suite {
@@ -94,6 +96,22 @@ TEST(Entscheidung, eine_frequenz_allein_braucht_mehr)
     EXPECT_FALSE(urteilen(lauf({120, 20, 0, 4.9, 0.4}), annahme_nur_l1(20000)).angenommen);
     EXPECT_EQ(plan(Loesungsart::l1, 3000, false)[0].annahme.anteil, annahme_nur_l1(3000).anteil);
     EXPECT_EQ(plan(Loesungsart::l1, 3000, true)[0].annahme.anteil, annahme_l1(3000).anteil);
+}
+
+TEST(Entscheidung, beide_frequenzen_ohne_l1_muessen_gut_passen)
+{
+    const auto allein = [](double laenge, bool netz) {
+        const auto versuche = plan(Loesungsart::automatisch, laenge, true, netz);
+        const auto fund = std::find_if(versuche.begin(), versuche.end(),
+                                       [](const Versuch& v) { return v.art == Laufart::l1_l2 && !v.zeuge; });
+        return fund == versuche.end() ? Annahme{} : fund->annahme;
+    };
+    const Loeserausgabe mit_1_15 = lauf({120, 20, 0, 10, 1.05}), mit_1_3 = lauf({120, 20, 0, 10, 1.19});
+    EXPECT_TRUE(urteilen(mit_1_15, allein(3000, false)).angenommen);
+    EXPECT_FALSE(urteilen(mit_1_3, allein(3000, false)).angenommen);
+    EXPECT_TRUE(urteilen(mit_1_3, allein(3000, true)).angenommen);
+    EXPECT_FALSE(urteilen(lauf({120, 20, 0, 10, 1.46}), allein(3000, true)).angenommen);
+    EXPECT_FALSE(urteilen(mit_1_15, allein(20000, true)).angenommen);
 }
 
 TEST(Entscheidung, zeuge_kommt_zum_selben_ort)

@@ -43,6 +43,7 @@ private:
     std::size_t gemeinsame(double takt) const;
     bool antennen_suchen();
     std::optional<Antennenblock> antenne(std::string_view antex, const Beobachtungsdatei& datei, std::string& herkunft);
+    bool kalibriert() const;
     bool auftrag_fuellen();
     std::optional<Ergebnis> loesen(const Loeser& loeser);
     Ergebnis ergebnis(const Fund& fund) const;
@@ -194,6 +195,15 @@ bool Lauf::antennen_suchen()
     return true;
 }
 
+// Two antennas of one type without calibrations cancel.
+bool Lauf::kalibriert() const
+{
+    if (m_auftrag.basis_antenne && m_auftrag.rover_antenne) return true;
+    const std::string& typ = m_rover.daten.kopf.antennentyp;
+    return !m_auftrag.basis_antenne && !m_auftrag.rover_antenne && !typ.empty() &&
+           gleich_ohne_gross(typ, m_basis.daten.kopf.antennentyp);
+}
+
 bool Lauf::auftrag_fuellen()
 {
     std::error_code fehler_basis, fehler_rover;
@@ -265,7 +275,7 @@ std::optional<Ergebnis> Lauf::loesen(const Loeser& loeser)
     if (!zwei_frequenzen) m_protokoll.zeile("Nur eine Frequenz");
     if (m_aufruf.art == Loesungsart::l1 && m_laenge > MITTEL)
         m_protokoll.warnung(verkettet(u8"L1 ist für "_w, fest(m_laenge / 1000.0, 1), " km zu lang."));
-    Versuchsreihe reihe(loeser, m_protokoll);
+    Versuchsreihe reihe(loeser, m_protokoll, kalibriert());
     auto fund = reihe.fest_loesen(plan(m_aufruf.art, m_laenge, zwei_frequenzen, m_netz));
     // Where no integers hold from a network's station, it has not caught the ionosphere.
     if (!fund) fund = reihe.offen_loesen(plan_offen(m_netz ? std::max(m_laenge, MITTEL) : m_laenge, zwei_frequenzen));

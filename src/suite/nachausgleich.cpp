@@ -16,10 +16,13 @@ constexpr double NAHE = 0.060;        // m from the end; farther away other inte
 constexpr std::size_t EPOCHEN_MINDESTENS = 5;
 constexpr double BLOCK = 300.0;  // s over which the drift of the two phases is averaged
 constexpr std::size_t BLOCK_EPOCHEN = 5;
-constexpr double RAUSCHZEIT = 75.0;    // s that the noise of an average stays alike
-constexpr double MEHRWEGZEIT = 180.0;  // the same for what is left of the noise in a place
+constexpr double RAUSCHZEIT = 75.0;   // s that the noise of an average stays alike
+constexpr double MEHRWEGZEIT = 60.0;  // the same for what is left of the noise in a place
+// What sets a satellite's two phases apart however long one waits, metres: reflections, and antennas without
+// calibration.
+constexpr double BLEIBT = 0.0007, BLEIBT_UNKALIBRIERT = 0.002;
 // Metres of the ionosphere on L1: never less, and at most so many for each unit of a misfit beyond that of calm air.
-constexpr double IONO_MINDESTENS = 0.001, IONO_JE_S0 = 0.005, S0_RUHIG = 0.35;
+constexpr double IONO_MINDESTENS = 0.002, IONO_JE_S0 = 0.005, S0_RUHIG = 0.35;
 constexpr double SIGMA_ANFANG = 0.003, ANFANG_JE_IONO = 3.0;  // metres; how far the run on L1 may be off
 
 constexpr double DRIFT = IONO_VERHAELTNIS - 1.0;
@@ -79,7 +82,7 @@ struct Normalen {
 
 class Rechnung {
 public:
-    Rechnung(const Loeserausgabe& lauf, const Position& ende);
+    Rechnung(const Loeserausgabe& lauf, const Position& ende, double bleibt);
     bool genug() const { return m_epochen.size() >= EPOCHEN_MINDESTENS; }
     /// Sets the noise too. The greatest that is believed, metres.
     double ionosphaere(double hoechstens);
@@ -92,12 +95,13 @@ private:
     void epoche_dazu(const Ausgleichsepoche& e, double ionosphaere, Normalen& summe) const;
 
     Ort m_ort;
+    double m_bleibt;
     std::map<std::string_view, std::size_t> m_satelliten;
     std::vector<Ausgleichsepoche> m_epochen;
     double m_intervall = 0, m_rauschen = 1;  // the latter in variances of SIGMA_PHASE
 };
 
-Rechnung::Rechnung(const Loeserausgabe& lauf, const Position& ende) : m_ort(ende.ort)
+Rechnung::Rechnung(const Loeserausgabe& lauf, const Position& ende, double bleibt) : m_ort(ende.ort), m_bleibt(bleibt)
 {
     auto p = lauf.positionen.begin();
     const auto& reste = lauf.reste;
@@ -186,7 +190,7 @@ void Rechnung::epoche_dazu(const Ausgleichsepoche& e, double ionosphaere, Normal
     std::array<std::array<double, N + 1>, N> m{};
     const double gleich = m_rauschen * std::min(1.0, MEHRWEGZEIT / std::max(1.0, dauer()));
     for (const Beobachtung& o : e.werte) {
-        const double rauschen = o.varianz * gleich, iono = std::pow(ionosphaere * o.schief, 2);
+        const double rauschen = o.varianz * gleich + m_bleibt * m_bleibt, iono = std::pow(ionosphaere * o.schief, 2);
         const double c11 = rauschen + iono, c12 = IONO_VERHAELTNIS * iono,
                      c22 = rauschen + IONO_VERHAELTNIS * IONO_VERHAELTNIS * iono, det = c11 * c22 - c12 * c12;
         const std::array<std::array<double, 2>, 2> gewicht = {{{c22 / det, -c12 / det}, {-c12 / det, c11 / det}}};
@@ -226,9 +230,9 @@ double wurzel_mit_vorzeichen(double wert)
 }  // namespace
 
 std::optional<Nachausgleich> nachausgleichen(const Loeserausgabe& lauf, const Position& ende, const Xyz& anfang,
-                                             double s0)
+                                             double s0, bool kalibriert)
 {
-    Rechnung rechnung(lauf, ende);
+    Rechnung rechnung(lauf, ende, kalibriert ? BLEIBT : BLEIBT_UNKALIBRIERT);
     if (!rechnung.genug()) return {};
     Nachausgleich ergebnis{ende, 0.0};
     ergebnis.ionosphaere = rechnung.ionosphaere(IONO_JE_S0 * std::sqrt(std::max(0.0, s0 * s0 - S0_RUHIG * S0_RUHIG)));

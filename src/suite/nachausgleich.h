@@ -18,8 +18,9 @@ struct Nachausgleich {
 /// are fixed to within 6 cm of `ende`. The ionosphere is a random delay of each satellite in each epoch; its size comes
 /// from how the two phases drift apart beyond their noise, and `s0`, the misfit of the run on L1, is its limit: what
 /// doesn't show there is multipath of L2. `anfang`, the place of that run, counts as an observation, which holds a poor
-/// geometry of the fixed satellites. Nothing when too few epochs are left.
+/// geometry of the fixed satellites. `kalibriert` as for the runs: else L1 and L2 may stand apart for as long as the
+/// run lasts, and that must not be taken for ionosphere. Nothing when too few epochs are left.
 std::optional<Nachausgleich> nachausgleichen(const Loeserausgabe& lauf, const Position& ende, const Xyz& anfang,
-                                             double s0);
+                                             double s0, bool kalibriert);
 
 }  // namespace jorv::suite

@@ -63,8 +63,8 @@ void Versuchsreihe::nachausgleichen(const Versuch& versuch, const Position& ende
 {
     const bool zwei = versuch.art == Laufart::l1_l2;
     const double s0 = fund.urteil.masse.s0 * (zwei ? S0_L1 : 1.0);
-    const auto neu =
-        suite::nachausgleichen(lauf(versuch.zeuge.value_or(versuch.art)).ausgabe, ende, fund.position.ort, s0);
+    const auto neu = suite::nachausgleichen(lauf(versuch.zeuge.value_or(versuch.art)).ausgabe, ende, fund.position.ort,
+                                            s0, m_kalibriert);
     std::string grund;
     if (!neu || !einig(fund.position, neu->position, grund)) return;
     m_protokoll.zeile(verkettet(u8"Ausgleich L1 und L2, Ionosphäre "_w, fest(neu->ionosphaere * 1000.0, 1), " mm: um ",

@@ -21,7 +21,11 @@ struct Fund {
 
 class Versuchsreihe {
 public:
-    Versuchsreihe(const Loeser& loeser, Protokoll& protokoll) : m_loeser(loeser), m_protokoll(protokoll) {}
+    /// `kalibriert`: the antennas don't set L1 and L2 apart.
+    Versuchsreihe(const Loeser& loeser, Protokoll& protokoll, bool kalibriert)
+        : m_loeser(loeser), m_protokoll(protokoll), m_kalibriert(kalibriert)
+    {
+    }
 
     /// The first fixed run that is accepted and, where it has a witness, confirmed by it.
     std::optional<Fund> fest_loesen(const std::vector<Versuch>& versuche);
@@ -36,6 +40,7 @@ private:
 
     const Loeser& m_loeser;
     Protokoll& m_protokoll;
+    bool m_kalibriert;
     std::map<Laufart, Loeserlauf> m_laeufe;
     bool m_version_geprueft = false;
     std::optional<Laufart> m_widersprochen;  // said another place than the run that it was to confirm: neither counts

@@ -20,6 +20,11 @@ struct Korrektur {
         return (l1 * FREQUENZ1 * FREQUENZ1 - l2 * FREQUENZ2 * FREQUENZ2) /
                (FREQUENZ1 * FREQUENZ1 - FREQUENZ2 * FREQUENZ2);
     }
+    /// The same with another share of the dispersive part.
+    Korrektur mit_anteil(double anteil) const
+    {
+        return {satellit, neutral() + anteil * (l1 - neutral()), neutral() + anteil * (l2 - neutral())};
+    }
     double code1() const { return 2.0 * neutral() - l1; }
     double code2() const { return 2.0 * neutral() - l2; }
 };

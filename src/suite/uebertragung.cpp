@@ -112,14 +112,14 @@ Uebertragungsbericht uebertragen(RinexBeobachtung& daten, const Uebertragungsauf
     return zaehlung;
 }
 
-Ionosphaerengefaelle gefaelle(const Netz& netz, const Ort& master, const Ort& nach, bool mit_korrekturen)
+Ionosphaerengefaelle gefaelle(const Netz& netz, const Ort& master, const Ort& nach, double anteil)
 {
     Ionosphaerengefaelle ziel;
     ziel.schicht = netz.ionosphaere;
     double rest = 1.0;
-    for (std::size_t k = 0; mit_korrekturen && k < netz.stationen.size(); ++k) {
-        ziel.orte.push_back({Ort(netz.stationen[k].ort), -netz.gewichte[k]});
-        rest -= netz.gewichte[k];
+    for (std::size_t k = 0; anteil > 0 && k < netz.stationen.size(); ++k) {
+        ziel.orte.push_back({Ort(netz.stationen[k].ort), -anteil * netz.gewichte[k]});
+        rest -= anteil * netz.gewichte[k];
     }
     ziel.orte.push_back({master, -rest});
     ziel.orte.push_back({nach, 1.0});

@@ -32,7 +32,7 @@ struct Uebertragungsbericht {
 Uebertragungsbericht uebertragen(RinexBeobachtung& daten, const Uebertragungsauftrag& auftrag);
 
 /// What the weights of the network's stations don't bring along of the ionosphere: the layer at `nach` less the layer
-/// at the stations' places. Without corrections the master alone counts.
-Ionosphaerengefaelle gefaelle(const Netz& netz, const Ort& master, const Ort& nach, bool mit_korrekturen);
+/// at the stations' places. They count as much as the share of their corrections says; with 0 the master alone.
+Ionosphaerengefaelle gefaelle(const Netz& netz, const Ort& master, const Ort& nach, double anteil);
 
 }  // namespace jorv::suite

@@ -7,6 +7,7 @@
 #include "suite/herkunft.h"
 #include "suite/koordinaten.h"
 #include "suite/netz.h"
+#include "suite/netz_abgleich.h"
 #include "suite/netz_modell.h"
 #include "suite/rinex_schreiben.h"
 #include "suite/spalten.h"
@@ -62,10 +63,11 @@ private:
     std::vector<Netzstation> kandidaten();
     void modell_ablegen(const Netz& netz);
     void uebertragen(RinexBeobachtung& daten);
+    void abgleichen(const RinexBeobachtung& daten, Netz& netz, RinexBeobachtung& versuch);
     std::optional<Beobachtungsdatei> master_lesen();
     void glonass_bereitstellen();
     bool navigation_bereitstellen();
-    Uebertragungsauftrag auftrag(const Netz& netz, bool mit_korrekturen) const;
+    Uebertragungsauftrag auftrag(const Netz& netz, std::optional<double> anteil) const;
     void kopf_setzen(RinexBeobachtung& daten, const Ort& nach);
     bool ausgeben(const RinexBeobachtung& daten);
     void berichten(const RinexBeobachtung& daten);
@@ -194,7 +196,8 @@ void Lauf::modell_ablegen(const Netz& netz)
         m_protokoll.fehler(verkettet("Die Datei ", m_aufruf.modelldatei, " konnte nicht geschrieben werden!"));
 }
 
-Uebertragungsauftrag Lauf::auftrag(const Netz& netz, bool mit_korrekturen) const
+// Without a share of the network's ionosphere there are no corrections at all.
+Uebertragungsauftrag Lauf::auftrag(const Netz& netz, std::optional<double> anteil) const
 {
     Uebertragungsauftrag u{Ort(m_master.ort),
                            Ort(m_virtuell),
@@ -204,9 +207,25 @@ Uebertragungsauftrag Lauf::auftrag(const Netz& netz, bool mit_korrekturen) const
                            m_glonass.saetze,
                            {},
                            nullptr};
-    if (mit_korrekturen) u.korrekturen = &netz.korrekturen;
-    if (m_aufruf.ionosphaere) u.gefaelle = gefaelle(netz, u.von, u.nach, mit_korrekturen);
+    if (anteil) u.korrekturen = &netz.korrekturen;
+    if (m_aufruf.ionosphaere) u.gefaelle = gefaelle(netz, u.von, u.nach, anteil.value_or(0.0));
     return u;
+}
+
+// A few stations don't see every wave, two none across their line: the rover tells how much of theirs serves it.
+void Lauf::abgleichen(const RinexBeobachtung& daten, Netz& netz, RinexBeobachtung& versuch)
+{
+    Protokoll schon_gesagt;  // what the file's remarks are
+    const auto rover = datei_lesen(m_ordner, m_aufruf.rover, Umfang::alles, schon_gesagt, m_spanne);
+    if (!rover) return;
+    RinexBeobachtung verschoben = daten;
+    jorv::suite::uebertragen(verschoben, auftrag(netz, {}));
+    const double anteil = netzanteil(rover->daten, verschoben, versuch);
+    m_protokoll.zeile(verkettet(u8"  Anteil der Ionosphäre des Netzes  "_w, fest(anteil, 2)));
+    for (Korrekturepoche& e : netz.korrekturen)
+        for (Korrektur& k : e.werte) k = k.mit_anteil(anteil);
+    versuch = daten;
+    m_bericht = jorv::suite::uebertragen(versuch, auftrag(netz, anteil));
 }
 
 // With the network's corrections where they reach far enough for this master; else the station is a shifted one.
@@ -217,10 +236,11 @@ void Lauf::uebertragen(RinexBeobachtung& daten)
     if (!m_aufruf.modelldatei.empty()) modell_ablegen(netz);
     if (!netz.korrekturen.empty()) {
         RinexBeobachtung versuch = daten;
-        m_bericht = jorv::suite::uebertragen(versuch, auftrag(netz, true));
+        m_bericht = jorv::suite::uebertragen(versuch, auftrag(netz, 1.0));
         const auto verloren = static_cast<double>(m_bericht.ohne_netz);
         const double anteil = verloren / std::max(1.0, verloren + static_cast<double>(versuch.messungen.size()));
         if (anteil <= NETZLUECKEN) {
+            abgleichen(daten, netz, versuch);
             daten = std::move(versuch);
             m_netz = std::move(netz);
             return;
@@ -228,7 +248,7 @@ void Lauf::uebertragen(RinexBeobachtung& daten)
         m_protokoll.zeile(
             verkettet("Netz             nicht benutzt: ", fest(100.0 * anteil, 0), " % der Beobachtungen fehlten"));
     }
-    m_bericht = jorv::suite::uebertragen(daten, auftrag(netz, false));
+    m_bericht = jorv::suite::uebertragen(daten, auftrag(netz, {}));
 }
 
 void Lauf::kopf_setzen(RinexBeobachtung& daten, const Ort& nach)

@@ -14,7 +14,7 @@ constexpr std::size_t EPOCHEN_MINDESTENS = 5;
 constexpr double DAUER_MINDESTENS = 89.0;  // s
 constexpr double FESTE_MINDESTENS = 5.0;   // satellites; four fit any integers
 constexpr double EINIG = 0.030;            // m between a run and its witness
-constexpr double S0_OHNE_L1 = 1.2, S0_OHNE_L1_NETZ = 1.5;
+constexpr double S0_OHNE_L1 = 1.2, S0_OHNE_L1_NETZ = 2.0;
 constexpr double S0_OFFEN = 3.0;  // a float run above it has not modelled the ionosphere
 
 // The last fixed epoch, when it is the last one or lies in the final tenth; else the count of positions.

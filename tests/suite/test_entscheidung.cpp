@@ -110,7 +110,7 @@ TEST(Entscheidung, beide_frequenzen_ohne_l1_muessen_gut_passen)
     EXPECT_TRUE(urteilen(mit_1_15, allein(3000, false)).angenommen);
     EXPECT_FALSE(urteilen(mit_1_3, allein(3000, false)).angenommen);
     EXPECT_TRUE(urteilen(mit_1_3, allein(3000, true)).angenommen);
-    EXPECT_FALSE(urteilen(lauf({120, 20, 0, 10, 1.46}), allein(3000, true)).angenommen);
+    EXPECT_FALSE(urteilen(lauf({120, 20, 0, 10, 1.92}), allein(3000, true)).angenommen);
     EXPECT_FALSE(urteilen(mit_1_15, allein(20000, true)).angenommen);
 }
 

@@ -63,6 +63,8 @@ std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, 
     }
     if (art != Loesungsart::l1 && zwei_frequenzen && !ruhig_zuerst)
         versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});
+    if (netz)
+        for (Versuch& v : versuche) v.annahme_zeuge = ANNAHME_ZEUGE_NETZ;
     return versuche;
 }
 

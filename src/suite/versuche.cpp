@@ -49,7 +49,7 @@ void Versuchsreihe::zeile(Laufart art, const Loeserlauf& lauf, const Urteil& urt
 const Position* Versuchsreihe::bestaetigt(const Versuch& versuch, const Position& position)
 {
     const Loeserlauf& zeuge = lauf(*versuch.zeuge);
-    const Urteil seines = urteilen(zeuge.ausgabe, ANNAHME_ZEUGE);
+    const Urteil seines = urteilen(zeuge.ausgabe, versuch.annahme_zeuge);
     std::string grund = seines.grund;
     const bool gut = seines.angenommen && einig(position, zeuge.ausgabe.positionen[seines.epoche], grund);
     if (seines.angenommen && !gut) m_widersprochen = versuch.zeuge;

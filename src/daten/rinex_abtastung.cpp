@@ -186,24 +186,16 @@ void gestoert_melden(Global& g, const std::string& pfad)
 
 }  // namespace
 
-Zeilenstrom::Zeilenstrom(Dateistrom datei, std::size_t stueck)
-    : m_datei(std::move(datei)), m_stueck(stueck), m_puffer(std::min(stueck, erstes_stueck))
-{
-    m_stelle = m_ende = m_puffer.data();
-}
+Zeilenstrom::Zeilenstrom(Dateistrom datei, std::size_t stueck) : m_puffer(std::move(datei), stueck, erstes_stueck) {}
 
-// Brings what is left in memory to the front and the file's next bytes behind it; false at the end of the file.
+// False at the end of the file.
 bool Zeilenstrom::nachladen()
 {
     const auto rest = static_cast<std::size_t>(m_ende - m_stelle);
-    if (m_puffer.empty()) return false;
-    std::memmove(m_puffer.data(), m_stelle, rest);
-    if (m_nummer > 0 && m_puffer.size() < m_stueck) m_puffer.resize(m_stueck);
-    if (rest == m_puffer.size()) m_puffer.resize(std::max(2 * m_puffer.size(), m_stueck));
-    const std::size_t neu = m_datei.lesen(m_puffer.data() + rest, m_puffer.size() - rest);
-    m_stelle = m_puffer.data();
-    m_ende = m_stelle + rest + neu;
-    return neu > 0;
+    const std::string_view text = m_puffer.nachladen({m_stelle, rest});
+    m_stelle = text.data();
+    m_ende = m_stelle + text.size();
+    return text.size() > rest;
 }
 
 std::optional<std::string_view> Zeilenstrom::naechste()
@@ -216,7 +208,7 @@ std::optional<std::string_view> Zeilenstrom::naechste()
         if (umbruch || !nachladen()) break;
     }
     // What a failed read has cut off is no line.
-    if (m_stelle == m_ende || (!umbruch && m_datei.fehler())) return std::nullopt;
+    if (m_stelle == m_ende || (!umbruch && m_puffer.fehler())) return std::nullopt;
     std::string_view zeile(m_stelle, static_cast<std::size_t>((umbruch ? umbruch : m_ende) - m_stelle));
     m_stelle = umbruch ? umbruch + 1 : m_ende;
     ++m_nummer;

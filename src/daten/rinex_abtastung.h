@@ -12,6 +12,7 @@
 #include "modell/Abtastung.h"
 #include "modell/Global.h"
 #include "plattform/fehler.h"
+#include "plattform/stueckpuffer.h"
 
 namespace jorv {
 
@@ -29,18 +30,16 @@ public:
     /// Number of the line read last.
     int nummer() const { return m_nummer; }
     /// Why the file ended early.
-    const std::error_code& fehler() const { return m_datei.fehler(); }
+    const std::error_code& fehler() const { return m_puffer.fehler(); }
 
 private:
     bool nachladen();
     void vorhandene_ueberspringen(std::int64_t& anzahl);
 
-    const char* m_stelle;  // of what is in memory, which begins with the next line
-    const char* m_ende;
+    const char* m_stelle = nullptr;  // of what is in memory, which begins with the next line
+    const char* m_ende = nullptr;
     int m_nummer = 0;
-    Dateistrom m_datei;
-    std::size_t m_stueck = 0;
-    std::vector<char> m_puffer;
+    Stueckpuffer m_puffer;
 };
 
 /// Whether the header label stands at column 61; what follows it doesn't matter.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "plattform/abbild.h"
+#include "plattform/wiederholen.h"
 
 namespace jorv {
 
@@ -14,9 +15,7 @@ Abbild::Abbild(const Systemaufrufe& aufrufe, const std::filesystem::path& host_p
 {
     fehler.clear();
     // O_NONBLOCK: a pipe in the place of the file must not hang the program.
-    int nummer = -1;
-    do nummer = aufrufe.oeffnen(host_pfad.c_str(), O_RDONLY | O_NONBLOCK, 0);
-    while (nummer < 0 && errno == EINTR);
+    const int nummer = ungestoert([&] { return aufrufe.oeffnen(host_pfad.c_str(), O_RDONLY | O_NONBLOCK, 0); });
     struct stat zustand {};
     if (nummer < 0 || ::fstat(nummer, &zustand) != 0) {
         fehler.assign(errno, std::generic_category());

@@ -50,21 +50,20 @@ std::vector<Versuch> plan(Loesungsart art, double laenge, bool zwei_frequenzen, 
     std::vector<Versuch> versuche;
     const auto zeuge = zwei_frequenzen ? std::optional(Laufart::l1_l2) : std::nullopt;
     const bool nachausgleichen = zwei_frequenzen && art == Loesungsart::automatisch;
+    const Annahme zeugenannahme = netz ? ANNAHME_ZEUGE_NETZ : ANNAHME_ZEUGE;
     const bool ruhig_zuerst = netz && nachausgleichen;
     if (ruhig_zuerst) {
-        versuche.push_back({Laufart::l1, ANNAHME_NETZ, "FixedL1", zeuge, true});
+        versuche.push_back({Laufart::l1, ANNAHME_NETZ, "FixedL1", zeuge, true, zeugenannahme});
         versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});
     }
     const Annahme l1 = zwei_frequenzen ? annahme_l1(laenge) : annahme_nur_l1(laenge);
     if (art == Loesungsart::l1 || (art == Loesungsart::automatisch && laenge <= MITTEL)) {
-        versuche.push_back({Laufart::l1, l1, "FixedL1", zeuge, nachausgleichen});
+        versuche.push_back({Laufart::l1, l1, "FixedL1", zeuge, nachausgleichen, zeugenannahme});
         if (zwei_frequenzen)
             versuche.push_back({Laufart::l1_l2, annahme_l1_l2(laenge, netz), "FixedL1", {}, nachausgleichen});
     }
     if (art != Loesungsart::l1 && zwei_frequenzen && !ruhig_zuerst)
         versuche.push_back({Laufart::l0, ANNAHME_L0, "FixedL0", {}});
-    if (netz)
-        for (Versuch& v : versuche) v.annahme_zeuge = ANNAHME_ZEUGE_NETZ;
     return versuche;
 }
 

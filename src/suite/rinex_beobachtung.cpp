@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 #include "plattform/speicher.h"
+#include "plattform/stueckpuffer.h"
 #include "plattform/text.h"
 #include "suite/glonass.h"
 #include "suite/spalten.h"
@@ -67,15 +67,13 @@ public:
         : Leser(std::string_view(), umfang, fenster, systeme)
     {
         m_bytes = strom.groesse;
-        m_datei = std::move(strom.datei);
-        m_puffer.resize(std::min(strom.stueck, strom.groesse + 1));
-        m_rest = {m_puffer.data(), 0};
+        m_puffer = Stueckpuffer(std::move(strom.datei), strom.stueck, strom.groesse + 1);
     }
 
     bool kopf(std::string& grund);
     void daten();
     RinexBeobachtung ergebnis() { return std::move(m_ziel); }
-    bool gestoert() const { return static_cast<bool>(m_datei.fehler()); }
+    bool gestoert() const { return static_cast<bool>(m_puffer.fehler()); }
 
 private:
     bool zeile(std::string_view& ziel);
@@ -94,8 +92,7 @@ private:
     std::string_view m_rest;         // of the text, or of what is in memory of the file
     const char* m_umkehr = nullptr;  // where the reading goes on when the present epoch turns out damaged
     std::size_t m_bytes;
-    Dateistrom m_datei;
-    std::vector<char> m_puffer;
+    Stueckpuffer m_puffer;
     Umfang m_umfang;
     std::optional<Zeitspanne> m_fenster;
     bool m_glonass;
@@ -108,18 +105,15 @@ private:
     bool m_abgebrochen = false;
 };
 
-// Brings what is still needed to the front and the file's next bytes behind it; false at the end of the file.
+// False at the end of the file.
 bool Leser::nachladen()
 {
-    if (m_puffer.empty()) return false;
     const char* const anfang = m_umkehr ? m_umkehr : m_rest.data();
     const auto gelesen = static_cast<std::size_t>(m_rest.data() - anfang), bleibt = gelesen + m_rest.size();
-    std::memmove(m_puffer.data(), anfang, bleibt);
-    if (bleibt == m_puffer.size()) m_puffer.resize(2 * m_puffer.size());
-    const std::size_t neu = m_datei.lesen(m_puffer.data() + bleibt, m_puffer.size() - bleibt);
-    if (m_umkehr) m_umkehr = m_puffer.data();
-    m_rest = {m_puffer.data() + gelesen, bleibt - gelesen + neu};
-    return neu > 0;
+    const std::string_view text = m_puffer.nachladen({anfang, bleibt});
+    if (m_umkehr) m_umkehr = text.data();
+    m_rest = text.substr(gelesen);
+    return text.size() > bleibt;
 }
 
 // The line stands until the next one is asked for.

@@ -95,7 +95,7 @@ TEST(Nachausgleich, nimmt_so_viel_ionosphaere_wie_sich_auf_beiden_zeigt)
         Stoerung stoerung;
         double s0, iono_von, iono_bis;  // mm
     };
-    for (const Fall& f : {Fall{"ruhig", {}, 0.3, 2.0, 2.0}, Fall{"gestoert", {.ionosphaere = 0.005}, 1.2, 2.0, 6.0},
+    for (const Fall& f : {Fall{"ruhig", {}, 0.3, 2.0, 2.0}, Fall{"gestoert", {.ionosphaere = 0.005}, 1.2, 3.0, 6.0},
                           Fall{"nur L2", {.mehrweg_l2 = 0.004}, 0.35, 2.0, 2.0},
                           Fall{"wenig sichtbar", {.ionosphaere = 0.005}, 0.4, 2.0, 2.0},
                           Fall{"viel Rauschen", {.rauschen = 0.004}, 1.2, 2.0, 2.0}}) {

@@ -1,13 +1,17 @@
 // Our side of the comparison in vergleich.sh: times of single operations, each the best of several.
-//   bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER
+//   bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER | aufnahme ORDNER
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "bench/messdatei.h"
 #include "bench/messprojekt.h"
+#include "daten/einfuegen.h"
 #include "daten/punkt_info.h"
 #include "daten/satelliten.h"
 #include "hilfen/Projekt.h"
@@ -92,6 +96,56 @@ int sichern(int rover_zahl)
            beste("laden", 9, [&] { return laden(p.g); });
 }
 
+// Copies in its dialog, as the window does, and takes the time of it.
+class Kopierschirm final : public StummeOberflaeche {
+public:
+    explicit Kopierschirm(std::string ordner) : m_ordner(std::move(ordner)) {}
+    std::optional<Dateiwahl> dateien_waehlen(Dateiart art, std::string_view) override
+    {
+        const auto pfade = einfuegbare_Dateien(*g, art, m_ordner, false);
+        const auto beginn = std::chrono::steady_clock::now();
+        dateien_kopieren(*g, art, pfade);
+        kopieren = std::chrono::steady_clock::now() - beginn;
+        return Dateiwahl{{}, m_ordner};
+    }
+    Global* g = nullptr;
+    std::chrono::duration<double, std::milli> kopieren{};
+
+private:
+    std::string m_ordner;
+};
+
+// As the measured files have it, so that nothing is asked.
+void station_eintragen(Global& g, int nummer)
+{
+    TOREL_Punkt_Satz punkt;
+    punkt.PKZ = verkettet(nummer < 10 ? "000" : nummer < 100 ? "00" : "0", nummer);
+    punkt.X = 3783000.1234, punkt.Y = 901600.1234, punkt.Z = 5038200.1234;
+    (void)g.TOREL_Punkt.anfuegen(punkt);
+}
+
+// The whole command for all files of a folder, copying aside: the headers, the satellites of rovers, assignment and
+// project file.
+int aufnahme(const fs::path& ordner)
+{
+    double kopieren = 1e12, rest = 1e12;
+    for (int i = 0; i < 3; ++i) {
+        hilfen::Pruefstand p;
+        Kopierschirm schirm(Laufwerke().dos(ordner).value_or(""));
+        for (int n = 1; n <= 200; ++n) station_eintragen(p.g, n);
+        p.g.oberflaeche = &schirm;
+        schirm.g = &p.g;
+        const auto beginn = std::chrono::steady_clock::now();
+        m_datei_rinex(p.g);
+        const std::chrono::duration<double, std::milli> ganz = std::chrono::steady_clock::now() - beginn;
+        if (p.g.RINEX_Dateien.anzahl() == 0 || schirm.gesagt() > 0) return 1;
+        kopieren = std::min(kopieren, schirm.kopieren.count());
+        rest = std::min(rest, (ganz - schirm.kopieren).count());
+    }
+    std::printf("kopieren %.3f\naufnahme %.3f\n", kopieren, rest);
+    return 0;
+}
+
 }  // namespace
 
 int main(int anzahl, char** worte)
@@ -101,9 +155,11 @@ int main(int anzahl, char** worte)
         return messen::datei_schreiben(worte[2], std::atol(worte[3]), anzahl > 4 && worte[4] == std::string("ende")), 0;
     if (was == "werte") return werte(fs::absolute(worte[2]));
     if (was == "satelliten" || was == "kopf") return aufnehmen(fs::absolute(worte[2]), was == "satelliten");
+    if (was == "aufnahme") return aufnahme(fs::absolute(worte[2]));
     if (was == "sichern") return sichern(std::atoi(worte[2]));
     std::fputs(
-        "bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER\n",
+        "bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER | "
+        "aufnahme ORDNER\n",
         stderr);
     return 2;
 }

@@ -61,18 +61,19 @@ fest "loading 1000 rovers" "$(wert laden <<<"$sichern")" 20 "bench_vergleich sic
 zuordnen=$("$bau/bench/bench_automatik" --benchmark_format=csv 2>/dev/null | awk -F, '/1000\/50\/300/ { print $3 / ($5 == "us" ? 1000 : $5 == "ns" ? 1e6 : 1); exit }')
 [[ -z $zuordnen ]] || fest "assignment, 1000 rovers, 50 figures, 300 files" "$zuordnen" 10 "bench_automatik"
 
-echo 'intake of 200 hour files, copying aside'
-mkdir quelle ziel
-for i in $(seq 5001 5200); do cp 55020010.26o "quelle/${i}0010.26o"; done
-printf '[GRUNDEINSTELLUNGEN]\r\n' >JorvPlus.INI
-befehl() { "$bau/programme/jorv" --einstellungen JorvPlus.INI --ja "$@" >/dev/null 2>&1; }
-befehl neu Messung --modus B --verzeichnis ziel/v
-kopie=$(beste bash -c 'rm -rf k; cp -r quelle k; sync k/*')
-beginn=$(date +%s%N)
-befehl rinex 1 quelle
-ende=$(date +%s%N)
-awk -v a="$(((ende - beginn) / 1000))" -v k="$kopie" \
-  'BEGIN { printf "%-44s %9.2f ms %9.2f ms  difference %.0f ms\n    jorv rinex 1 quelle | cp -r quelle k; sync k/*\n", "whole command, against copying the same files", a / 1000, k, a / 1000 - k }'
+echo 'intake of 200 hour files, 1.5 GB'
+mkdir rover stationen
+for i in $(seq 0001 0200); do
+  cp 55020010.26o "rover/$((i + 5000))0010.26o"
+  cp 55030010.26o "stationen/$(printf %04d "$((10#$i))")0010.26o"
+done
+kopieren() { rm -rf k; cp -r rover k; sync k/*; }
+kopie=$(beste kopieren)
+rover=$("$messer" aufnahme "$PWD/rover")
+zeile "copying them, against cp and sync" "$(wert kopieren <<<"$rover")" "$kopie" "<=1.5" \
+  "bench_vergleich aufnahme FOLDER | cp -r FOLDER k; sync k/*"
+fest "stations with an end time, copying aside" "$("$messer" aufnahme "$PWD/stationen" | wert aufnahme)" 100 "bench_vergleich aufnahme FOLDER"
+fest "rovers without one, with their satellites" "$(wert aufnahme <<<"$rover")" 2000 "bench_vergleich aufnahme FOLDER (200 inventories of 10 ms)"
 
 echo "a rover's own cost and several at once"
 "$wurzel/bench/lauf.sh" "$bau" | tail -1

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <set>
+#include <span>
 
 #include "daten/antennen_datei.h"
 #include "daten/dateiname.h"
@@ -112,17 +114,41 @@ bool format_festlegen(Global& g, std::string_view name)
     return false;
 }
 
-bool eine_kopieren(Global& g, Dateiart art, const std::string& pfad)
+// The end of the files from `ab` on that are copied together: so many that the disk isn't waited for at each, so few
+// that the display moves and little is there twice on a nearly full disk. Antenna files go one by one, since the first
+// of them settles the format of the others.
+std::size_t ende_der_Gruppe(const Global& g, Dateiart art, const std::vector<std::string>& pfade, std::size_t ab)
 {
-    const std::string name = klein(pfad_name(pfad));
-    if (art == Dateiart::antennen && !format_festlegen(g, name)) return false;
-    const std::string ziel = im_Verfahren(g, name);
-    if (g.dateien.kopieren(pfad, ziel)) {
-        stop_melden(
-            g, verkettet("Kopierfehler! Die Datei: \n", pfad, "\nkonnte nicht nach: \n", ziel, "\nkopiert werden!"));
+    constexpr std::size_t hoechstens = 16;
+    constexpr std::uint64_t bytes_hoechstens = 64'000'000;
+    if (art == Dateiart::antennen) return ab + 1;
+    std::uint64_t bytes = 0;
+    std::size_t ende = ab;
+    while (ende < pfade.size() && ende - ab < hoechstens && (ende == ab || bytes < bytes_hoechstens))
+        bytes += g.dateien.groesse(pfade[ende++]).value_or(0);
+    return ende;
+}
+
+// Copies the first of these and lists them, at least one; false after a message.
+bool Gruppe_kopieren(Global& g, Dateiart art, std::span<const std::string> pfade, std::size_t& gelistet)
+{
+    std::vector<std::string> namen;
+    std::vector<Kopie> kopien;
+    for (const auto& pfad : pfade) {
+        namen.push_back(klein(pfad_name(pfad)));
+        if (art == Dateiart::antennen && !format_festlegen(g, namen.back())) return false;
+        kopien.push_back({pfad, im_Verfahren(g, namen.back())});
+    }
+    std::error_code fehler;
+    const std::size_t kopiert = g.dateien.gemeinsam_kopieren(kopien, fehler);
+    if (kopiert == 0) {
+        stop_melden(g, verkettet("Kopierfehler! Die Datei: \n", kopien[0].von, "\nkonnte nicht nach: \n",
+                                 kopien[0].nach, "\nkopiert werden!"));
         return false;
     }
-    if (g.dateien_liste.anfuegen(name)) return true;
+    // One that failed behind others leads the next group: a disk too full for the group may hold the file.
+    while (gelistet < kopiert && g.dateien_liste.anfuegen(namen[gelistet])) ++gelistet;
+    if (gelistet == kopiert) return true;
     stop_melden(g,
                 dimensionierung_meldung(29, "(Dateien command1_click)",
                                         verkettet("    ReDim Preserve dateien_liste(", g.dateien_liste.anzahl(), ")")));
@@ -315,8 +341,14 @@ std::vector<std::string> einfuegbare_Dateien(const Global& g, Dateiart art, std:
 void dateien_kopieren(Global& g, Dateiart art, const std::vector<std::string>& pfade,
                       const std::function<void(std::size_t)>& kopiert)
 {
-    for (std::size_t i = 0; i < pfade.size() && eine_kopieren(g, art, pfade[i]); ++i)
-        if (kopiert) kopiert(i);
+    bool weiter = true;
+    for (std::size_t i = 0; weiter && i < pfade.size();) {
+        const std::size_t ende = ende_der_Gruppe(g, art, pfade, i);
+        std::size_t gelistet = 0;
+        weiter = Gruppe_kopieren(g, art, std::span(pfade).subspan(i, ende - i), gelistet);
+        for (const std::size_t bis = i + gelistet; i < bis; ++i)
+            if (kopiert) kopiert(i);
+    }
 }
 
 void neue_rinex_datei(Global& g, const std::string& name)

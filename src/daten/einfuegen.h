@@ -30,7 +30,7 @@ std::vector<std::string> einfuegbare_Dateien(const Global& g, Dateiart art, std:
 
 /// Copies the chosen files into the project directory, under their names in lower case, and lists the copies in
 /// dateien_liste. The first antenna file settles the project's format. Ends at the first failure, which has shown its
-/// message; what was copied stays listed. `kopiert` is called behind each file with its place (from 0) in `pfade`.
+/// message; what was copied stays listed. `kopiert` is called for each copied file with its place (from 0) in `pfade`.
 void dateien_kopieren(Global& g, Dateiart art, const std::vector<std::string>& pfade,
                       const std::function<void(std::size_t)>& kopiert = {});
 

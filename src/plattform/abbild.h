@@ -27,9 +27,6 @@ public:
     ~Abbild();
 
     std::string_view text() const { return {m_bytes, m_laenge}; }
-    /// Brings all of it into memory, for who hands it to the system in one piece: a write that meets a page which isn't
-    /// there stops short of it, and of the large page that it is filling only the rest is done again.
-    void einlagern() const;
 
 private:
     const char* m_bytes = nullptr;

@@ -50,13 +50,6 @@ Abbild& Abbild::operator=(Abbild&& anderes) noexcept
     return *this;
 }
 
-void Abbild::einlagern() const
-{
-#ifdef MADV_POPULATE_READ
-    if (m_bytes) ::madvise(const_cast<char*>(m_bytes), m_laenge, MADV_POPULATE_READ);
-#endif
-}
-
 Abbild::~Abbild()
 {
     if (m_bytes) ::munmap(const_cast<char*>(m_bytes), m_laenge);

@@ -39,8 +39,6 @@ Abbild& Abbild::operator=(Abbild&& anderes) noexcept
     return *this;
 }
 
-void Abbild::einlagern() const {}
-
 Abbild::~Abbild()
 {
     if (m_bytes) UnmapViewOfFile(m_bytes);

@@ -4,10 +4,11 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <charconv>
+#include <memory>
+#include <set>
 
+#include "plattform/ersatzdatei.h"
 #include "plattform/text.h"
-#include "plattform/umgebung.h"
 #include "plattform/wiederholen.h"
 
 namespace jorv {
@@ -15,8 +16,6 @@ namespace jorv {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::string_view marke = ".jorv-";  // in the names of temporary files
 
 std::error_code grund()
 {
@@ -27,28 +26,20 @@ std::error_code kein_laufwerk()
     return std::make_error_code(std::errc::no_such_device);
 }
 
-std::string utf8(const fs::path& pfad)
-{
-    const auto text = pfad.u8string();
-    return {reinterpret_cast<const char*>(text.data()), text.size()};
-}
-
-fs::path aus_utf8(const std::string& text)
-{
-    return fs::path(reinterpret_cast<const char8_t*>(text.c_str()));
-}
-
 fs::path link_ziel(const fs::path& pfad)
 {
     std::error_code fehler;
     return fs::is_symlink(pfad, fehler) ? fs::weakly_canonical(pfad, fehler) : pfad;
 }
 
-std::string temporaerer_name(const fs::path& ziel, int versuch)
+// Through one buffer that stays in the processor's cache.
+std::error_code uebertragen(Dateistrom& von, Ersatzdatei& nach)
 {
-    const fs::path ordner = ziel.parent_path();
-    const std::string name = verkettet(".", utf8(ziel.filename()), marke, prozess_kennung(), "-", versuch);
-    return utf8(ordner / aus_utf8(name));
+    constexpr std::size_t stueck = 256 * 1024;
+    const auto puffer = std::make_unique_for_overwrite<char[]>(stueck);
+    while (const std::size_t n = von.lesen(puffer.get(), stueck))
+        if (const auto fehler = nach.schreiben({puffer.get(), n})) return fehler;
+    return von.fehler();
 }
 
 }  // namespace
@@ -155,56 +146,36 @@ Abbild Dateisystem::abbilden(std::string_view pfad, std::error_code& fehler) con
     return {};
 }
 
-std::error_code Dateisystem::alles_schreiben(int nummer, std::string_view bytes, Dauer dauer) const
+std::error_code Dateisystem::ordner_sichern(const fs::path& ordner) const
 {
-    while (!bytes.empty()) {
-        const long n = ungestoert([&] { return m_aufrufe->schreiben(nummer, bytes.data(), bytes.size()); });
-        if (n < 0) return grund();
-        if (n == 0) return std::make_error_code(std::errc::no_space_on_device);
-        bytes.remove_prefix(static_cast<std::size_t>(n));
-    }
-    const bool gut = dauer != Dauer::fest || ungestoert([&] { return m_aufrufe->sichern(nummer); }) == 0;
-    return gut ? std::error_code{} : grund();
+    const auto aufruf = [&] { return m_aufrufe->ordner_sichern(utf8(ordner).c_str()); };
+    return ungestoert(aufruf) != 0 ? grund() : std::error_code{};
+}
+
+std::error_code Dateisystem::einsetzen(Ersatzdatei& ersatz, Dauer dauer, Dateistufe& stufe) const
+{
+    stufe = Dateistufe::schreiben;
+    if (dauer == Dauer::fest)
+        if (const auto fehler = ersatz.sichern()) return fehler;
+    stufe = Dateistufe::schliessen;
+    if (const auto fehler = ersatz.schliessen()) return fehler;
+    stufe = Dateistufe::schreiben;
+    if (const auto fehler = ersatz.einsetzen()) return fehler;
+    if (dauer == Dauer::fest)
+        if (const auto fehler = ordner_sichern(ersatz.ordner())) return fehler;
+    stufe = Dateistufe::gut;
+    return {};
 }
 
 std::error_code Dateisystem::ersetzen(const fs::path& ziel, std::string_view bytes, Dauer dauer,
                                       Dateistufe& stufe) const
 {
     stufe = Dateistufe::oeffnen;
-    std::error_code fehler;
-    const auto zustand = fs::status(ziel, fehler);
-    const bool alt_da = fs::exists(zustand);
-    if (alt_da && !fs::is_regular_file(zustand))
-        return std::make_error_code(fs::is_directory(zustand) ? std::errc::is_a_directory
-                                                              : std::errc::invalid_argument);
-    if (alt_da && (zustand.permissions() & fs::perms::owner_write) == fs::perms::none)
-        return std::make_error_code(std::errc::permission_denied);
-    std::string neu;
-    int nummer = -1;
-    for (int versuch = 0; versuch < 100 && nummer < 0; ++versuch) {
-        neu = temporaerer_name(ziel, versuch);
-        nummer = m_aufrufe->oeffnen(neu.c_str(), O_WRONLY | O_CREAT | O_EXCL, 0666);
-        if (nummer < 0 && errno != EEXIST && errno != EINTR) return grund();
-    }
-    if (nummer < 0) return grund();
+    Ersatzdatei ersatz(*m_aufrufe, ziel);
+    if (const auto fehler = ersatz.anlegen()) return fehler;
     stufe = Dateistufe::schreiben;
-    std::error_code ergebnis = alles_schreiben(nummer, bytes, dauer);
-    if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) {
-        ergebnis = grund();
-        stufe = Dateistufe::schliessen;
-    }
-    if (!ergebnis && alt_da) fs::permissions(aus_utf8(neu), zustand.permissions(), fehler);
-    const auto umbenennen = [&] { return m_aufrufe->umbenennen(neu.c_str(), utf8(ziel).c_str()); };
-    if (!ergebnis && ungestoert(umbenennen) != 0) ergebnis = grund();
-    if (ergebnis) {
-        ungestoert([&] { return m_aufrufe->loeschen(neu.c_str()); });
-        return ergebnis;
-    }
-    const fs::path ordner = ziel.parent_path().empty() ? fs::path(".") : ziel.parent_path();
-    const auto ordner_sichern = [&] { return m_aufrufe->ordner_sichern(utf8(ordner).c_str()); };
-    if (dauer == Dauer::fest && ungestoert(ordner_sichern) != 0) return grund();
-    stufe = Dateistufe::gut;
-    return {};
+    if (const auto fehler = ersatz.schreiben(bytes)) return fehler;
+    return einsetzen(ersatz, dauer, stufe);
 }
 
 std::error_code Dateisystem::schreiben(std::string_view pfad, std::string_view bytes, Dauer dauer) const
@@ -234,7 +205,9 @@ std::error_code Dateisystem::anhaengen(std::string_view pfad, std::string_view b
     const auto alte_laenge = fs::file_size(*ort, fehler);
     const int nummer = ungestoert([&] { return m_aufrufe->oeffnen(utf8(*ort).c_str(), O_WRONLY | O_APPEND, 0); });
     if (nummer < 0) return grund();
-    std::error_code ergebnis = alles_schreiben(nummer, bytes, dauer);
+    std::error_code ergebnis = alles_schreiben(*m_aufrufe, nummer, bytes);
+    const auto sichern = [&] { return m_aufrufe->sichern(nummer); };
+    if (!ergebnis && dauer == Dauer::fest && ungestoert(sichern) != 0) ergebnis = grund();
     if (m_aufrufe->schliessen(nummer) != 0 && errno != EINTR && !ergebnis) ergebnis = grund();
     if (ergebnis && !fehler) fs::resize_file(*ort, alte_laenge, fehler);
     return ergebnis;
@@ -247,14 +220,67 @@ std::error_code Dateisystem::kopieren(std::string_view von, std::string_view nac
 
 std::error_code Dateisystem::host_kopieren(const fs::path& quelle, const fs::path& ziel, Dauer dauer) const
 {
+    Ersatzdatei ersatz(*m_aufrufe, link_ziel(ziel));
+    bool noetig = false;
+    const auto fehler = kopie_anlegen(quelle, ziel, ersatz, noetig);
+    Dateistufe stufe;
+    return fehler || !noetig ? fehler : einsetzen(ersatz, dauer, stufe);
+}
+
+std::error_code Dateisystem::kopie_anlegen(const fs::path& quelle, const fs::path& ziel, Ersatzdatei& ersatz,
+                                           bool& noetig) const
+{
     if (quelle.empty() || ziel.empty()) return kein_laufwerk();
     std::error_code fehler;
-    if (fs::equivalent(quelle, ziel, fehler) && !fehler) return {};
-    const Abbild bild(*m_aufrufe, quelle, fehler);
+    noetig = !fs::equivalent(quelle, ziel, fehler) || fehler;
+    if (!noetig) return {};
+    Dateistrom strom(*m_aufrufe, quelle, fehler);
     if (fehler) return fehler;
-    bild.einlagern();
-    Dateistufe stufe;
-    return ersetzen(link_ziel(ziel), bild.text(), dauer, stufe);
+    fehler = ersatz.anlegen();
+    return fehler ? fehler : uebertragen(strom, ersatz);
+}
+
+std::size_t Dateisystem::gemeinsam_kopieren(std::span<const Kopie> kopien, std::error_code& fehler) const
+{
+    fehler = {};
+    std::vector<std::optional<Ersatzdatei>> neue;  // nothing where a file is its own copy
+    neue.reserve(kopien.size());
+    for (const auto& kopie : kopien) {
+        const fs::path ziel = host(kopie.nach);
+        bool noetig = false;
+        neue.emplace_back(std::in_place, *m_aufrufe, link_ziel(ziel));
+        if ((fehler = kopie_anlegen(host(kopie.von), ziel, *neue.back(), noetig))) {
+            neue.pop_back();
+            break;
+        }
+        if (noetig)
+            neue.back()->ausschreiben_beginnen();
+        else
+            neue.back().reset();
+    }
+    // Whatever fails at one of them: those before it are taken, it and those behind it are removed.
+    const auto alle = [&](auto schritt) {
+        for (std::size_t i = 0; i < neue.size(); ++i) {
+            if (!neue[i]) continue;
+            const std::error_code grund = schritt(*neue[i]);
+            if (!grund) continue;
+            fehler = grund;
+            while (neue.size() > i) neue.pop_back();
+        }
+    };
+    alle([](Ersatzdatei& neu) { return neu.sichern(); });
+    alle([](Ersatzdatei& neu) { return neu.schliessen(); });
+    std::set<fs::path> ordner;
+    alle([&](Ersatzdatei& neu) {
+        ordner.insert(neu.ordner());
+        return neu.einsetzen();
+    });
+    for (const auto& einer : ordner)
+        if (const auto grund = ordner_sichern(einer)) {
+            fehler = grund;
+            return 0;
+        }
+    return neue.size();
 }
 
 std::error_code Dateisystem::loeschen(std::string_view pfad) const
@@ -328,12 +354,7 @@ void Dateisystem::reste_wegraeumen(std::string_view ordner) const
     const auto ort = m_laufwerke.host(ordner);
     if (!ort) return;
     for (const auto& eintrag : Laufwerke::inhalt(*ort)) {
-        const auto stelle = eintrag.name.rfind(marke);
-        if (stelle == std::string::npos || !eintrag.name.starts_with('.')) continue;
-        long kennung = 0;
-        const char* beginn = eintrag.name.data() + stelle + marke.size();
-        const auto [ende, fehler] = std::from_chars(beginn, eintrag.name.data() + eintrag.name.size(), kennung);
-        if (fehler != std::errc{} || *ende != '-' || prozess_lebt(kennung)) continue;
+        if (!ist_ueberrest(eintrag.name)) continue;
         const fs::path rest = *ort / aus_utf8(eintrag.name);
         std::error_code ohne;
         if (eintrag.ordner)

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -13,6 +14,7 @@
 
 #include "plattform/abbild.h"
 #include "plattform/dateistrom.h"
+#include "plattform/ersatzdatei.h"
 #include "plattform/laufwerke.h"
 #include "plattform/systemaufrufe.h"
 
@@ -21,14 +23,14 @@ namespace jorv {
 /// The step of reading or writing a file that failed; messages tell them apart.
 enum class Dateistufe { gut, oeffnen, lesen, schreiben, schliessen };
 
-/// Whether a written file must outlive a power failure. Fluechtig is for what a run makes anew anyway: whole or not at
-/// all for every program that looks, but not flushed to the disk.
-enum class Dauer { fest, fluechtig };
-
 struct Gelesen {
     std::string text;
     Dateistufe stufe = Dateistufe::oeffnen;
     bool gut() const { return stufe == Dateistufe::gut; }
+};
+
+struct Kopie {
+    std::string von, nach;
 };
 
 struct Ordnereintrag {
@@ -84,6 +86,9 @@ public:
     /// The same for paths of the host that `host` has given.
     [[nodiscard]] std::error_code host_kopieren(const std::filesystem::path& von, const std::filesystem::path& nach,
                                                 Dauer dauer = Dauer::fest) const;
+    /// Copies several files in their order, each as `kopieren` would, but flushes their folder once for all: that is
+    /// what many small ones wait for. Returns how many of the first are copied; `fehler` tells why not all of them.
+    [[nodiscard]] std::size_t gemeinsam_kopieren(std::span<const Kopie> kopien, std::error_code& fehler) const;
     /// Deletes a file, also a read-only one.
     [[nodiscard]] std::error_code loeschen(std::string_view pfad) const;
 
@@ -106,8 +111,11 @@ public:
 private:
     std::error_code ersetzen(const std::filesystem::path& ziel, std::string_view bytes, Dauer dauer,
                              Dateistufe& stufe) const;
+    std::error_code einsetzen(Ersatzdatei& ersatz, Dauer dauer, Dateistufe& stufe) const;
+    std::error_code kopie_anlegen(const std::filesystem::path& quelle, const std::filesystem::path& ziel,
+                                  Ersatzdatei& ersatz, bool& noetig) const;
+    std::error_code ordner_sichern(const std::filesystem::path& ordner) const;
     std::error_code ordner_und_eltern(const std::filesystem::path& ordner) const;
-    std::error_code alles_schreiben(int nummer, std::string_view bytes, Dauer dauer) const;
 
     Laufwerke m_laufwerke;
     const Systemaufrufe* m_aufrufe;

@@ -22,4 +22,8 @@ struct Systemaufrufe {
     static const Systemaufrufe& echte();
 };
 
+/// Has the system begin to write out what the open file got so far, so that a later `sichern` waits less: a hint, no
+/// promise.
+void ausschreiben_beginnen(int nummer);
+
 }  // namespace jorv

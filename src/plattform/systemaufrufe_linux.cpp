@@ -52,6 +52,11 @@ constexpr Systemaufrufe tabelle{oeffnen,  lesen,    schreiben,      ::fsync,    
 
 }  // namespace
 
+void ausschreiben_beginnen(int nummer)
+{
+    ::sync_file_range(nummer, 0, 0, SYNC_FILE_RANGE_WRITE);
+}
+
 const Systemaufrufe& Systemaufrufe::echte()
 {
     return tabelle;

@@ -64,6 +64,8 @@ constexpr Systemaufrufe tabelle{oeffnen,    lesen,    schreiben,      _commit,  
 
 }  // namespace
 
+void ausschreiben_beginnen(int) {}
+
 const Systemaufrufe& Systemaufrufe::echte()
 {
     return tabelle;

@@ -132,6 +132,30 @@ TEST(Einfuegen, OhneKopieBleibtAllesWieEsIst)
     EXPECT_FALSE(fs::exists(s.pfad("5501122a.16o"))) << "no project is open";
 }
 
+TEST(Einfuegen, WasEinerVollenPlatteEntgehtWirdAlleinNochmalsVersucht)
+{
+    struct Fall {
+        int schreiben_bei;  // that write fails, once
+        bool fehlt;         // the second file isn't there
+        int gelistet;
+    };
+    for (const auto& fall : {Fall{0, false, 40}, Fall{1, false, 0}, Fall{2, false, 40}, Fall{0, true, 1}}) {
+        Einfuegestand s("1");
+        Namen pfade;
+        for (int i = 1; i <= 40; ++i) pfade.push_back(s.datei(verkettet(5500 + i, "122a.16o"), gut));
+        if (fall.fehlt) fs::remove(s.quelle / "5502122a.16o");
+        std::vector<std::size_t> gemeldet;
+        Bruch bruch(s.g);
+        Bruch::schreiben_bei = fall.schreiben_bei;
+        dateien_kopieren(s.g, Dateiart::rinex, pfade, [&](std::size_t i) { gemeldet.push_back(i); });
+        ASSERT_EQ(s.g.dateien_liste.anzahl(), fall.gelistet);
+        for (std::size_t i = 0; i < gemeldet.size(); ++i) EXPECT_EQ(gemeldet[i], i);
+        EXPECT_EQ(gemeldet.size(), static_cast<std::size_t>(fall.gelistet));
+        for (const auto& name : s.g.dateien_liste) EXPECT_EQ(lesen(s.pfad(name)), gut);
+        EXPECT_EQ(s.schirm.gezeigt.size(), fall.gelistet == 40 ? 0u : 1u);
+    }
+}
+
 TEST(Einfuegen, GescheiterteSicherungSetztNichtsZurueck)
 {
     Einfuegestand s("1");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -107,6 +108,44 @@ TEST(Datei, JederEinzelneFehlschlagLaesstAltOderNeuGanz)
             }
         }
     }
+}
+
+TEST(Datei, BeimGemeinsamenKopierenKommenDieErstenGanzUndKeinRestBleibt)
+{
+    const Arbeitsordner ordner;
+    const Dateisystem dateien({}, kaputte_tabelle);
+    const std::vector<std::string> namen = {"eins", "zwei", "drei"};
+    std::vector<Kopie> kopien;
+    for (const auto& name : namen) {
+        hilfen::schreiben(ordner.host() / "her" / name, neu + name);
+        kopien.push_back({ordner.dos() + "\\her\\" + name, ordner.dos() + "\\hin\\" + name});
+    }
+    // The second stands where it shall be copied to: it counts, and nothing is done to it.
+    hilfen::schreiben(ordner.host() / "hin" / "zwei", neu + "zwei");
+    kopien[1].von = kopien[1].nach;
+    std::vector<std::size_t> zahlen;
+    for (const int grund : {ENOSPC, EINTR}) {
+        for (int n = 1; n < 200; ++n) {
+            hilfen::schreiben(ordner.host() / "hin" / "eins", alt);
+            fs::remove(ordner.host() / "hin" / "drei");
+            fehler_bei(n, grund);
+            std::error_code fehler;
+            const std::size_t zahl = dateien.gemeinsam_kopieren(kopien, fehler);
+            ASSERT_EQ(!fehler, zahl == 3) << n;
+            if (grund == ENOSPC) zahlen.push_back(zahl);
+            for (std::size_t i = 0; i < namen.size(); ++i) {
+                const fs::path ziel = ordner.host() / "hin" / namen[i];
+                const std::string text = fs::exists(ziel) ? hilfen::lesen(ziel) : "";
+                EXPECT_TRUE(text == neu + namen[i] || (i >= zahl && text == (i == 0 ? alt : ""))) << n << text;
+            }
+            const auto dateien_da = std::distance(fs::directory_iterator(ordner.host() / "hin"), {});
+            EXPECT_EQ(dateien_da, fs::exists(ordner.host() / "hin" / "drei") ? 3 : 2) << "left-over file, call " << n;
+            if (zaehler < n) break;
+        }
+        EXPECT_LT(zaehler, scheitert_bei) << "every call has failed once";
+    }
+    for (const std::size_t zahl : {0, 2, 3})
+        EXPECT_NE(std::count(zahlen.begin(), zahlen.end(), zahl), 0) << "no failing call leaves " << zahl;
 }
 
 // By processes of their own, a small disk and a pipe.

@@ -55,7 +55,10 @@ std::string zeile(const GEO_Punkt_Satz& figur)
 {
     Wortreihe reihe;
     const int anzahl = std::clamp(figur.Anzahl, 0, static_cast<int>(figur.Punkt.size()));
-    reihe.ganz(anzahl);
+    // The count is looked for behind the row's first "=": where a name holds one, another goes before it.
+    const bool gleich = std::any_of(figur.Punkt.begin(), figur.Punkt.begin() + anzahl,
+                                    [](const std::string& name) { return name.find('=') != std::string::npos; });
+    reihe.wort(verkettet(gleich ? "=" : "", anzahl));
     for (std::size_t i = 0; i < static_cast<std::size_t>(anzahl); ++i)
         reihe.name(figur.Punkt[i]).wort(meter(figur.Rechtswert[i])).wort(meter(figur.Hochwert[i]));
     return reihe.fertig();

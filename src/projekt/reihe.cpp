@@ -58,7 +58,11 @@ Reihe& Reihe::wandeln(T& ziel, Feldwort wort, Umwandlung umwandlung)
 Reihe& Reihe::text(std::string& ziel, Feldwort wort)
 {
     std::string_view text;
-    if (naechstes(text, wort)) ziel = text;
+    if (!naechstes(text, wort)) return *this;
+    // Written last, a word would lose the tabs at its ends: so it loses them everywhere.
+    const auto von = text.find_first_not_of('\t');
+    if (von == std::string_view::npos) return fehler(wort.fehlt);
+    ziel = text.substr(von, text.find_last_not_of('\t') - von + 1);
     return *this;
 }
 

@@ -127,12 +127,11 @@ Fehler sektion_lesen(Global& g, const Profil& profil, const Sektionsart& art, Fe
 /// with digits; less than a millionth of a millimetre counts as none.
 std::optional<double> reihenzahl(double wert);
 
-/// A token for a row: in double quotes when it holds a delimiter of words, or a tab, which the end of a row loses.
+/// A token for a row: in double quotes when it holds a delimiter of words.
 std::string als_wort(std::string_view text);
 inline bool hat_trenner(std::string_view text)
 {
-    const auto hat = [text](char byte) { return text.find(byte) != std::string_view::npos; };
-    return hat(' ') || hat('\t') || hat('\0');
+    return text.find(' ') != std::string_view::npos || text.find('\0') != std::string_view::npos;
 }
 
 }  // namespace jorv

@@ -45,7 +45,7 @@ std::optional<std::string> watime(const Worte& worte)
     std::optional<GpsZeit> zeit;
     if (worte.size() == 1) zeit = aus_woche(worte[0]);
     if (worte.size() == 6) zeit = aus_datum(worte);
-    if (!zeit) return {};
+    if (!zeit || woche(*zeit) > LETZTE_WOCHE) return {};
     const std::int64_t hundertstel = zeit->sekunde % 86400 * 100 / 86400;
     return verkettet(zeittext(*zeit), " ", gefuellt(tag_im_jahr(*zeit), 3), ".", gefuellt(hundertstel, 2), " ",
                      gefuellt(woche(*zeit), 4), "/", wochentag(*zeit), " ", gefuellt(zeit->sekunde % 604800, 6));

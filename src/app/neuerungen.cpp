@@ -1,6 +1,7 @@
 #include "app/neuerungen.h"
 
 #include "modell/Meldungen.h"
+#include "plattform/hostpfad.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 
@@ -21,9 +22,7 @@ Fehler Editor_setzen(Global& g, const std::filesystem::path& programm)
         g.Editor = *pfad;
         return Fehler::keiner;
     }
-    const auto utf8 = programm.u8string();
-    const std::string name(reinterpret_cast<const char*>(utf8.data()), utf8.size());
-    stop_melden(g, datei_meldung("Das Programm:", text_aus_utf8_mit_ersatz(name),
+    stop_melden(g, datei_meldung("Das Programm:", text_aus_utf8_mit_ersatz(utf8(programm)),
                                  "kann in JorvPlus nicht verwendet werden (Zeichen im Namen)!"));
     return Fehler::gesetzt;
 }

@@ -1,6 +1,7 @@
 #include "daten/dateiauswahl.h"
 
 #include "modell/Meldungen.h"
+#include "plattform/hostpfad.h"
 #include "plattform/text.h"
 
 namespace jorv {
@@ -9,9 +10,7 @@ std::optional<std::string> gewaehlte_datei(Global& g, const std::filesystem::pat
 {
     auto pfad = g.dateien.laufwerke().dos(datei);
     if (!pfad) {
-        const auto utf8 = datei.u8string();
-        const std::string name(reinterpret_cast<const char*>(utf8.data()), utf8.size());
-        stop_melden(g, datei_meldung("Die Datei:", text_aus_utf8_mit_ersatz(name),
+        stop_melden(g, datei_meldung("Die Datei:", text_aus_utf8_mit_ersatz(utf8(datei)),
                                      "kann in JorvPlus nicht verwendet werden (Zeichen im Namen)!"));
     }
     return pfad;

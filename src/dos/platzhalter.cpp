@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "plattform/hostpfad.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 
@@ -58,9 +59,8 @@ std::vector<Fund> dateien_finden(const Dateisystem& dateien, std::string_view pf
     const std::string_view muster = pfad_name(pfad);
     if (!hat_platzhalter(muster)) {
         if (!dateien.ist_datei(pfad)) return funde;
-        const auto name = dateien.host(pfad).filename().u8string();
-        const std::string_view utf8(reinterpret_cast<const char*>(name.data()), name.size());
-        funde.push_back({std::string(pfad), text_aus_utf8(utf8).value_or(std::string(muster))});
+        const auto name = text_aus_utf8(utf8(dateien.host(pfad).filename()));
+        funde.push_back({std::string(pfad), name.value_or(std::string(muster))});
         return funde;
     }
     const std::string_view ordner = pfad_ordner(pfad);

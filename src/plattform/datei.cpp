@@ -7,7 +7,7 @@
 #include <memory>
 #include <set>
 
-#include "plattform/ersatzdatei.h"
+#include "plattform/hostpfad.h"
 #include "plattform/text.h"
 #include "plattform/wiederholen.h"
 

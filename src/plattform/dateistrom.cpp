@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "plattform/hostpfad.h"
 #include "plattform/wiederholen.h"
 
 namespace jorv {
@@ -22,8 +23,7 @@ Dateistrom::Dateistrom(const Systemaufrufe& aufrufe, const fs::path& host_pfad, 
             std::make_error_code(fs::is_directory(zustand) ? std::errc::is_a_directory : std::errc::invalid_argument);
         return;
     }
-    const auto utf8 = host_pfad.u8string();
-    const std::string pfad(utf8.begin(), utf8.end());
+    const std::string pfad = utf8(host_pfad);
     m_nummer = ungestoert([&] { return aufrufe.oeffnen(pfad.c_str(), O_RDONLY, 0); });
     if (m_nummer < 0) fehler.assign(errno, std::generic_category());
 }

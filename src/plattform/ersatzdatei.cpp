@@ -6,6 +6,7 @@
 #include <charconv>
 #include <utility>
 
+#include "plattform/hostpfad.h"
 #include "plattform/text.h"
 #include "plattform/umgebung.h"
 #include "plattform/wiederholen.h"
@@ -24,17 +25,6 @@ std::error_code grund()
 }
 
 }  // namespace
-
-std::string utf8(const fs::path& pfad)
-{
-    const auto text = pfad.u8string();
-    return {reinterpret_cast<const char*>(text.data()), text.size()};
-}
-
-fs::path aus_utf8(const std::string& text)
-{
-    return fs::path(reinterpret_cast<const char8_t*>(text.c_str()));
-}
 
 std::string temporaerer_name(const fs::path& ziel, int versuch)
 {

@@ -55,8 +55,4 @@ std::string temporaerer_name(const std::filesystem::path& ziel, int versuch);
 /// True for a name (UTF-8) of such an entry whose process has ended.
 bool ist_ueberrest(std::string_view name);
 
-/// Host paths as the table of calls takes them.
-std::string utf8(const std::filesystem::path& pfad);
-std::filesystem::path aus_utf8(const std::string& text);
-
 }  // namespace jorv

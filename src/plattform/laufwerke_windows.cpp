@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "plattform/breit_windows.h"
+#include "plattform/hostpfad.h"
 #include "plattform/laufwerke.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
@@ -70,8 +71,7 @@ std::vector<Laufwerke::Inhalt> Laufwerke::inhalt(const fs::path& ordner)
     std::error_code fehler, ohne;
     for (fs::directory_iterator lauf(ordner.empty() ? fs::path(".") : ordner, fehler), ende; !fehler && lauf != ende;
          lauf.increment(fehler)) {
-        const auto name = lauf->path().filename().u8string();
-        liste.push_back({std::string(name.begin(), name.end()), lauf->is_directory(ohne)});
+        liste.push_back({utf8(lauf->path().filename()), lauf->is_directory(ohne)});
     }
     return liste;
 }
@@ -92,9 +92,9 @@ std::optional<std::string> Laufwerke::dos(const fs::path& host_pfad) const
                                   text_aus_utf8(schmal(fs::path(rest).make_preferred().wstring())).value_or(""));
     }
     std::error_code fehler;
-    const auto utf8 = fs::absolute(host_pfad, fehler).make_preferred().u8string();
+    const fs::path ganz = fs::absolute(host_pfad, fehler).make_preferred();
     if (fehler) return std::nullopt;
-    return text_aus_utf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
+    return text_aus_utf8(utf8(ganz));
 }
 
 }  // namespace jorv

@@ -1,4 +1,5 @@
 #include "plattform/nebenordner.h"
+#include "plattform/hostpfad.h"
 
 #include "plattform/pfad.h"
 #include "plattform/text.h"
@@ -11,8 +12,7 @@ namespace {
 
 std::string name_1252(const fs::path& pfad)
 {
-    const auto text = pfad.filename().u8string();
-    return text_aus_utf8({reinterpret_cast<const char*>(text.data()), text.size()}).value_or("");
+    return text_aus_utf8(utf8(pfad.filename())).value_or("");
 }
 
 std::error_code verschieben(const Dateisystem& dateien, const fs::path& von, std::string_view nach)

@@ -1,5 +1,4 @@
 // Our side of the comparison in vergleich.sh: times of single operations, each the best of several.
-//   bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER | aufnahme ORDNER
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -25,6 +24,10 @@ namespace {
 
 using namespace jorv;
 namespace fs = std::filesystem;
+
+constexpr const char* aufruf =
+    "bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER | "
+    "aufnahme ORDNER\n";
 
 // Milliseconds; nothing printed when the operation failed.
 int beste(const char* name, int laeufe, const std::function<bool()>& tun)
@@ -157,9 +160,6 @@ int main(int anzahl, char** worte)
     if (was == "satelliten" || was == "kopf") return aufnehmen(fs::absolute(worte[2]), was == "satelliten");
     if (was == "aufnahme") return aufnahme(fs::absolute(worte[2]));
     if (was == "sichern") return sichern(std::atoi(worte[2]));
-    std::fputs(
-        "bench_vergleich datei DATEI EPOCHEN [ende] | werte DATEI | satelliten DATEI | kopf DATEI | sichern ROVER | "
-        "aufnahme ORDNER\n",
-        stderr);
+    std::fputs(aufruf, stderr);
     return 2;
 }

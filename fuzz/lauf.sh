@@ -38,7 +38,7 @@ ein_ziel() {
   cd "$ordner"
   export TMPDIR=$ordner # what a killed interpreter leaves behind stays here
   liste=$(woerter "$ziel")
-  local befehl=("$bau/fuzz/fuzz_$ziel" -max_len="$(laenge "$ziel")" -timeout=30 -rss_limit_mb=1024 -print_final_stats=1
+  local befehl=("$bau/fuzz/fuzz_$ziel" -max_len="$(laenge "$ziel")" -timeout=30 -rss_limit_mb=1024 -print_funcs=0 -print_final_stats=1
     ${liste:+-dict="$wurzel/fuzz/woerter/$liste.dict"})
   if "${befehl[@]}" -max_total_time="$dauer" neu "$wurzel/fuzz/korpus/$ziel" 2>&1 | tail -n 300 >protokoll; then
     awk -v ziel="$ziel" '/number_of_executed_units/ { n = $2 } /average_exec_per_sec/ { s = $2 } /new_units_added/ { k = $2 }

@@ -4,6 +4,7 @@
 #include "dos/befehle.h"
 #include "dos/platzhalter.h"
 #include "dos/zeile.h"
+#include "plattform/hostpfad.h"
 #include "plattform/pfad.h"
 #include "plattform/text.h"
 
@@ -22,12 +23,6 @@ bool schreibgeschuetzt(const fs::path& ort)
 {
     std::error_code fehler;
     return (fs::status(ort, fehler).permissions() & fs::perms::owner_write) == fs::perms::none;
-}
-
-bool dieselbe_datei(const fs::path& a, const fs::path& b)
-{
-    std::error_code fehler;
-    return fs::equivalent(a, b, fehler) && !fehler;
 }
 
 // A name with a wildcard is no folder's, so none is looked for.

@@ -231,9 +231,9 @@ std::error_code Dateisystem::kopie_anlegen(const fs::path& quelle, const fs::pat
                                            bool& noetig) const
 {
     if (quelle.empty() || ziel.empty()) return kein_laufwerk();
-    std::error_code fehler;
-    noetig = !fs::equivalent(quelle, ziel, fehler) || fehler;
+    noetig = !dieselbe_datei(quelle, ziel);
     if (!noetig) return {};
+    std::error_code fehler;
     Dateistrom strom(*m_aufrufe, quelle, fehler);
     if (fehler) return fehler;
     fehler = ersatz.anlegen();
